@@ -19,6 +19,8 @@ import os
 import sys
 from dataclasses import dataclass, replace
 
+from _style import AMBER, CORAL, INK, LIGHT_TEAL, TEAL
+
 PLAIN_SIZE = (128, 147)
 COLOURED_SIZE = (142, 162)
 
@@ -28,11 +30,6 @@ COLOURED_OFFSET = 1000
 # In the order of the picture numbers; None is the hand at rest.
 MARKS = (None, "thumb", "index", "middle", "ring", "little")
 
-INK = "#1F3A4D"
-TEAL = "#2F7F86"
-LIGHT_TEAL = "#8CC6C4"
-AMBER = "#F2A541"
-CORAL = "#D9644A"
 SKIN = "#F3D3B8"
 SKIN_LIGHT = "#FAE3CF"
 SKIN_SHADE = "#DDAF8D"
@@ -138,6 +135,18 @@ class Finger:
         root = self.axis[0]
         axis = tuple(along(root, p, longer) for p in self.axis)
         return replace(self, axis=axis, half_width=self.half_width * thicker)
+
+    def aimed(self, tip):
+        """The finger turned and stretched about its knuckle until its tip is at `tip`."""
+        root, end = self.axis[0], self.axis[-1]
+        ex, ey = end[0] - root[0], end[1] - root[1]
+        tx, ty = tip[0] - root[0], tip[1] - root[1]
+        square = ex * ex + ey * ey
+        real, imaginary = (tx * ex + ty * ey) / square, (ty * ex - tx * ey) / square
+        axis = tuple((root[0] + (x - root[0]) * real - (y - root[1]) * imaginary,
+                      root[1] + (x - root[0]) * imaginary + (y - root[1]) * real)
+                     for x, y in self.axis)
+        return replace(self, axis=axis)
 
     def centre_line(self):
         line = []
@@ -356,14 +365,14 @@ def lift_mark(finger, key, colour):
             + f'fill="url(#{key}lift)"/>')
 
 
-def left_hand(mark, coloured, key="", fill_of=None):
+def left_hand(mark, coloured, key="", fill_of=None, fingers=None):
     """The left hand as SVG elements, in the units of the plain picture.
 
     `mark` names the striking finger or is None. `key` goes before every id, so that several
     hands can stand in one picture. `fill_of(name)` gives a finger's colour or None for skin,
-    if it is to differ from the colours of the set.
+    and `fingers` the five fingers, if they are to differ from those of the set.
     """
-    fingers = posed(mark)
+    fingers = fingers or posed(mark)
     points = outline(fingers)
     shape = smooth(points, closed=True)
     lit = smooth([(x - 2.0, y - 1.4) for x, y in points], closed=True)
