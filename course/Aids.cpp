@@ -93,16 +93,17 @@ void RaiseFlagOfLastLesson(context::SessionContext& context)
     context.arabicAnagram = kind == SpecialKind::ArabicAnagram;
 }
 
+// At most one flag is true; were more set, the last of them would rule.
 AidPlan PlanInForce(const context::SessionContext& context)
 {
-    if (context.englishAnagram) {
-        return {open, open, open, open, open};
+    if (context.freeText) {
+        return {off, off, open, open, open};
     }
     if (context.arabicAnagram) {
         return {on, open, open, open, open};
     }
-    if (context.freeText) {
-        return {off, off, open, open, open};
+    if (context.englishAnagram) {
+        return {open, open, open, open, open};
     }
     return AidsOfPlace(context.lessonNo, context.exerciseNo, context.arabicExercise);
 }
