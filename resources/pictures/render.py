@@ -60,11 +60,12 @@ def run_script(script):
 
 
 def scripted_pictures(source, out):
-    """Runs the scripts when any file of their folder or of the lettering is newer than their last
-    run; returns the file names that they made."""
+    """Runs the scripts when any file that they read is newer than their last run; returns the file
+    names that they made."""
     folder = source / "scripts"
     scripts = [path for path in sorted(folder.glob("*.py")) if not path.name.startswith("_")]
-    inputs = [*folder.glob("*"), *(source / "lettering").glob("*"), source / "sizes.csv"]
+    inputs = [*folder.glob("*"), *(source / "lettering").glob("*"),
+              source / "svg" / "icon.svg"]
     newest = max((path.stat().st_mtime_ns for path in inputs if path.is_file()), default=0)
     listing = out / "scripted.txt"
     names = [path.name for path in scripts]
@@ -102,14 +103,13 @@ def collect(source, also, out):
     return {Path(name).stem for name in names}
 
 
-def check_size(svg, size):
-    """The picture's own size must be the table's, or it would be stretched."""
+def has_size(svg, size):
+    """Whether the picture's own size is the table's; otherwise it would be stretched."""
     head = svg.read_text(encoding="utf-8")[:2000]
     tag = re.search(r"<svg\b[^>]*>", head)
     own = tuple(re.search(r'\s%s="([0-9.]+)(?:px)?"' % side, tag.group(0)) if tag else None
                 for side in ("width", "height"))
-    if None in own or tuple(float(match.group(1)) for match in own) != size:
-        raise PictureError("%s: its width and height are not those of sizes.csv" % svg.stem)
+    return None not in own and tuple(float(match.group(1)) for match in own) == size
 
 
 def render(svg, png, width, height):
@@ -133,11 +133,9 @@ def jobs(sizes, present, out):
     """All renderings as (svg, png, width, height), the largest first so that no core idles."""
     todo = []
     for id_, (width, height) in sizes.items():
-        if id_ not in present:
-            continue
         svg = out / "svg" / (id_ + ".svg")
-        check_size(svg, (width, height))
-        todo += [(svg, out / picture_name(id_, r), width * r, height * r) for r in RATIOS]
+        if id_ in present:
+            todo += [(svg, out / picture_name(id_, r), width * r, height * r) for r in RATIOS]
     if "icon" in present:
         icon = out / "svg" / "icon.svg"
         todo += [(icon, out / "icons" / ("keyfluent-%d.png" % s), s, s) for s in ICON_SIZES]
@@ -192,10 +190,12 @@ def main():
     sizes = read_sizes(options.source)
     (options.out / "icons").mkdir(parents=True, exist_ok=True)
     present = collect(options.source, options.also, options.out)
-    unknown = sorted(present - set(sizes) - {"icon"})
-    missing = [id_ for id_ in [*sizes, "icon"] if id_ not in present] if options.strict else []
-    faults = ["%s: is not in sizes.csv" % id_ for id_ in unknown]
-    faults += ["%s: has no source" % id_ for id_ in missing]
+    faults = ["%s: is not in sizes.csv" % id_ for id_ in sorted(present - set(sizes) - {"icon"})]
+    faults += ["%s: its width and height are not those of sizes.csv" % id_
+               for id_, size in sizes.items() if id_ in present
+               and not has_size(options.out / "svg" / (id_ + ".svg"), size)]
+    if options.strict:
+        faults += ["%s: has no source" % id_ for id_ in [*sizes, "icon"] if id_ not in present]
     if faults:
         raise PictureError("\n".join(faults))
     todo = jobs(sizes, present, options.out)
