@@ -7,8 +7,8 @@ Pictures hold no live text, so that they look the same on every machine. This to
 when a word or its face changes; the build uses only the file that it writes. It needs hb-shape and
 the fontTools module, and the faces of the Debian packages fonts-hosny-amiri and fonts-noto-core.
 
-Each line of the file is a JSON list: name, width (advance), left, top, right, bottom of the ink, and
-the path. The unit is 1/1000 em, y grows downwards, the origin is the start of the base line.
+Each line of the file is a JSON list: name, width (advance), left, top, right, bottom of the ink,
+and the path. The unit is 1/1000 em, y grows downwards, the origin is the start of the base line.
 """
 
 import json
@@ -38,7 +38,8 @@ WORDS = [
 
 def glyphs(face, text):
     shaped = subprocess.run(
-        ["hb-shape", "--output-format=json", "--no-glyph-names", "--font-file", face, "--text", text],
+        ["hb-shape", "--output-format=json", "--no-glyph-names", "--font-file", face,
+         "--text", text],
         check=True, capture_output=True, text=True).stdout
     return json.loads(shaped)
 

@@ -19,7 +19,8 @@ def key(cx, cy, size):
 def rosette(cx, cy, radius, stroke, width=1.0, attributes=""):
     """A sixteenfold rosette of fine lines."""
     inner = radius * 0.95
-    rings = "".join('<circle r="%s"/>' % number(r) for r in (radius, inner, inner * cos(3 * pi / 8)))
+    rings = "".join('<circle r="%s"/>' % number(r)
+                    for r in (radius, inner, inner * cos(3 * pi / 8)))
     return ('<g transform="translate(%s %s)" fill="none" stroke="%s" stroke-width="%s" '
             'stroke-linejoin="round" %s>%s<path d="%s"/><path d="%s"/></g>'
             % (number(cx), number(cy), stroke, width, attributes, rings,

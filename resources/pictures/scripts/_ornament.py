@@ -2,7 +2,7 @@
 lines that leave the middle of each edge at one angle and bend where they meet their neighbours'.
 The lines of all tiles join to strands that pass over and under each other in turn."""
 
-from math import atan2, cos, hypot, pi, radians, sin, sqrt, tan
+from math import cos, pi, radians, sin, sqrt, tan
 
 from _style import number, points_path
 

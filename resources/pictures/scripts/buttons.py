@@ -78,7 +78,7 @@ def exercise(main, second, inside):
 
 def steps(main, second, chosen):
     """Five steps seen from the front, one for each exercise of a lesson. They look the same to
-    a reader of either direction. The step with the number chosen, from the lowest up, stands out."""
+    a reader of either direction. The step that is chosen, counted from below, stands out."""
     return "".join('<rect x="%s" y="%s" width="%s" height="9.4" rx="2.4" fill="%s"/>'
                    % (-half, top, 2 * half, main if count == chosen else second)
                    for count, half, top in ((1, 32, 18.5), (2, 27.5, 7), (3, 23, -4.5),

@@ -4,7 +4,7 @@
 from _emblem import key, rosette
 from _lettering import word
 from _ornament import fills, octagons_and_squares, star, strands
-from _style import AMBER, GOLD, INK, PAPER, SAND, TEAL, points_path, save
+from _style import AMBER, GOLD, INK, SAND, TEAL, save
 
 
 def home_row(top, size, gap, width):
@@ -35,8 +35,8 @@ def splash():
          'stop-opacity=".55"/><stop offset="1" stop-color="#D9F0EC" stop-opacity="0"/>'
          '</radialGradient><linearGradient id="cap" x1="0" y1="0" x2=".4" y2="1">'
          '<stop offset="0" stop-color="#FBF8F2"/><stop offset="1" stop-color="#BFDEDB"/>'
-         '</linearGradient><linearGradient id="line" gradientUnits="userSpaceOnUse" x1="0" y1="-150" '
-         'x2="0" y2="80"><stop offset="0" stop-color="#E3F4F1" stop-opacity=".5"/>'
+         '</linearGradient><linearGradient id="line" gradientUnits="userSpaceOnUse" '
+         'x1="0" y1="-150" x2="0" y2="80"><stop offset="0" stop-color="#E3F4F1" stop-opacity=".5"/>'
          '<stop offset=".6" stop-color="#E3F4F1" stop-opacity=".42"/>'
          '<stop offset="1" stop-color="#E3F4F1" stop-opacity="0"/></linearGradient>'
          '<clipPath id="c"><rect x="5.5" y="5.5" width="439" height="319"/></clipPath></defs>'
