@@ -20,7 +20,7 @@ constexpr Row exercise1[] = {
 constexpr Row exercise2[] = {
     u"When every question had been answered, we were free to sit ",
     u"down and rest. ڑ",
-    u"Great Arctic waves erased the trace. ڑ",
+    u"Great Arctic waves erased every trace. ڑ",
     u"Captain Tiger, a cat, faced a rat. ڑ",
     u"Waiters served sweet Ceylon tea. ڑ",
     u"Sea birds rested at Cape Verde. ڑ",
