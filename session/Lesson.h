@@ -40,9 +40,9 @@ struct LessonWindow {
 inline constexpr int scaleMarkCount = 6;
 
 struct Lesson {
-    Lesson(context::SessionContext& context, const context::Platform& platform,
-           const LessonWindow& window)
-        : context(context), platform(platform), window(window)
+    Lesson(context::SessionContext& state, const context::Platform& machine,
+           const LessonWindow& around)
+        : context(state), platform(machine), window(around)
     {
     }
     Lesson(const Lesson&) = delete;

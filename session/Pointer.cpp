@@ -66,19 +66,20 @@ void MoveOverForm(Lesson& lesson)
     lesson.buttonLit = false;
 }
 
-void PressField(Lesson& lesson, FieldName field)
+bool PressField(Lesson& lesson, FieldName field)
 {
     const TextField& pressed = field == FieldName::Origin ? lesson.txtOrigin : lesson.txtTest;
     const bool mendingWithTheMouse =
         lesson.context.lessonNo == course::lessonCount && lesson.label7.visible;
     if (!pressed.visible || mendingWithTheMouse) {
-        return;
+        return false;
     }
     lesson.platform.beep();
     lesson.notAllowedVisible = true;
     lesson.window.showNotAllowed();
     lesson.notAllowedVisible = false;
     SelectCurrentChar(lesson);
+    return true;
 }
 
 void ClickOrigin(Lesson& lesson)

@@ -20,8 +20,9 @@ void PressStop(Lesson& lesson);
 void MoveOver(Lesson& lesson, PushPicture picture);
 void MoveOverForm(Lesson& lesson);
 
-// A mouse button goes down on one of the text fields.
-void PressField(Lesson& lesson, FieldName field);
+// A mouse button goes down on one of the text fields. True where the caution has answered it; false
+// where the press is the field's own, as in the review.
+bool PressField(Lesson& lesson, FieldName field);
 void ClickOrigin(Lesson& lesson);
 void OriginLostFocus(Lesson& lesson);
 
