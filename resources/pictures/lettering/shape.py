@@ -67,4 +67,5 @@ def main():
             out.write(json.dumps([name, *outline(face, text, spacing)]) + "\n")
 
 
-main()
+if __name__ == "__main__":
+    main()
