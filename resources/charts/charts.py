@@ -1,0 +1,357 @@
+#!/usr/bin/env python3
+"""The charts that tell which finger strikes which key.
+
+    python3 charts.py TABLES_FILE OUTDIR
+
+writes 146.svg (the whole keyboard), 147.svg (the numeric pad) and 148.svg (the guide row).
+
+TABLES_FILE is what keyfluent-table-dump prints, so the places of the keys, what is written on
+them and who strikes them are the program's own. Only the numeric pad has no fingers there, as no
+exercise asks for them: they are told here, in PAD_FINGERS.
+"""
+
+import json
+import sys
+from dataclasses import dataclass
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parent / "pictures" / "scripts"))
+
+import hands  # noqa: E402  (found by the line above)
+from _style import GREY, INK, LIGHT_GREY, WHITE, number  # noqa: E402
+from fingers import LaidHand, framed  # noqa: E402
+from hands import FINGER_COLOURS, mix  # noqa: E402
+
+TWIPS = 15  # to the pixel
+
+# Of the left hand from outside inwards, and then the right hand's from inside outwards.
+GUIDE_LETTERS = "شسيبتنمك"
+GUIDE_FINGERS = ("little", "ring", "middle", "index")
+
+MAIN_BLOCK = (*range(16, 30), *range(33, 79))
+HOME_ROW = range(48, 59)
+PAD = range(87, 105)
+LEFT_SHIFT, RIGHT_SHIFT, RETURN, SPACE = 60, 71, 59, 75
+
+# The usual way of typing figures: the right hand rests with three fingers on 4, 5 and 6 and the
+# little finger on the plus sign. Each finger has its own column from top to bottom; the point
+# belongs to the column over it. The thumb has the wide key below.
+PAD_FINGERS = {
+    "index": (87, 91, 95, 99),
+    "middle": (88, 92, 96, 100),
+    "ring": (89, 93, 97, 101, 104),
+    "little": (90, 94, 98, 102),
+    "thumb": (103,),
+}
+PAD_GUIDE = (95, 96, 97, 98)
+
+# How to name the fingers, from the outermost one inwards.
+FINGER_NAMES = {"little": "خنصر", "ring": "بنصر", "middle": "وسطى", "index": "سبابة",
+                "thumb": "إبهام"}
+
+
+# What the tables tell ------------------------------------------------------------------------
+
+
+def striker(fingers):
+    """The hand and the finger that strike a character without Shift, or None."""
+    if fingers["shiftCap"] != -1:
+        return None
+    named = [(hand, fingers[hand]) for hand in ("left", "right") if fingers[hand]]
+    return named[0] if len(named) == 1 else None
+
+
+def shift_holder(tables, shift_cap):
+    """The hand and the finger that hold this Shift key while the other hand strikes."""
+    hand, other = ("left", "right") if shift_cap == LEFT_SHIFT else ("right", "left")
+    holders = {told[hand] for told in tables["fingers"]["arabic"].values()
+               if told["shiftCap"] == shift_cap and told["left"] and told["right"]}
+    if len(holders) != 1:
+        raise SystemExit("charts: no single finger holds the Shift key %d" % shift_cap)
+    return hand, holders.pop()
+
+
+def strikers(tables):
+    """Who strikes each cap of the main block: cap -> (hand, finger). A cap that the tables tell
+    nothing of is not in it."""
+    told = {LEFT_SHIFT: shift_holder(tables, LEFT_SHIFT),
+            RIGHT_SHIFT: shift_holder(tables, RIGHT_SHIFT)}
+    characters = {RETURN: tables["lineEnd"], SPACE: " "}
+    for cap in MAIN_BLOCK:
+        texts = tables["caps"][cap]
+        arabic = characters.get(cap, texts["arabic"])
+        # The key of two Arabic letters is known by its Latin one.
+        for language, text in (("arabic", arabic), ("english", texts["english"])):
+            fingers = tables["fingers"][language].get(text)
+            if cap not in told and fingers and striker(fingers):
+                told[cap] = striker(fingers)
+    # The key of the backslash, of which no exercise shows the finger, ends the row of its
+    # neighbour's finger.
+    for cap in MAIN_BLOCK:
+        if cap not in told and len(tables["caps"][cap]["english"]) == 1:
+            told[cap] = told[cap - 1]
+    return told
+
+
+def guide_caps(tables):
+    """The caps on which the fingers rest: cap -> (hand, finger)."""
+    caps = [next(cap for cap in HOME_ROW if tables["caps"][cap]["arabic"] == letter)
+            for letter in GUIDE_LETTERS]
+    owners = ([("left", f) for f in GUIDE_FINGERS]
+              + [("right", f) for f in reversed(GUIDE_FINGERS)])
+    told = strikers(tables)
+    for cap, owner in zip(caps, owners):
+        if told[cap] != owner:
+            raise SystemExit("charts: the guide key %d belongs to another finger" % cap)
+    return dict(zip(caps, owners))
+
+
+# Keys ----------------------------------------------------------------------------------------
+
+
+@dataclass(frozen=True)
+class Key:
+    """A cap in pixels of the picture."""
+    cap: int
+    x: float
+    y: float
+    width: float
+    height: float
+
+    def centre(self):
+        return (self.x + self.width / 2, self.y + self.height / 2)
+
+
+@dataclass(frozen=True)
+class View:
+    """Where a part of the keyboard stands in a picture: the point of the typing window in twips
+    that lies at (x, y) of the picture, and the two scales."""
+    origin: tuple
+    x: float
+    y: float
+    across: float
+    down: float
+
+    def key(self, tables, cap):
+        design = tables["caps"][cap]
+        across, down = self.across / TWIPS, self.down / TWIPS
+        return Key(cap, self.x + (design["left"] - self.origin[0]) * across,
+                   self.y + (design["top"] - self.origin[1]) * down,
+                   design["width"] * across, design["height"] * down)
+
+
+# The left top corner of the number row, and of the numeric pad.
+MAIN_ORIGIN = (1305, 2295)
+PAD_ORIGIN = (9090, 2295)
+
+VIEWS = {
+    146: View(MAIN_ORIGIN, 20.5, 24.0, 1.25, 1.25),
+    147: View(PAD_ORIGIN, 18.4, 26.0, 1.70, 1.70),
+    # In the units of the laid hands. The caps are higher than they are on the screen, so that the
+    # letters stand clear of the fingertips.
+    148: View(MAIN_ORIGIN, 0.0, -24.0, 1.0, 1.3),
+}
+
+# Where the drawing of the guide row goes in its picture, and how far it is enlarged.
+GUIDE_PLACE = (250 - 184.5 * 1.48, -16)
+GUIDE_SCALE = 1.48
+
+
+# Drawing -------------------------------------------------------------------------------------
+
+
+GLYPHS = {}
+
+
+def glyph_of(text):
+    if not GLYPHS:
+        for line in (HERE / "glyphs.json").read_text(encoding="utf-8").splitlines():
+            name, *rest = json.loads(line)
+            GLYPHS[name] = rest
+    if text not in GLYPHS:
+        raise SystemExit("charts: glyphs.json does not hold %r; run glyphs.py" % text)
+    return GLYPHS[text]
+
+
+def written(text, cx, cy, size, colour, base_line=0.36, settle=0.5, rim=None):
+    """A text about the middle (cx, cy) at a size in pixels per em. It settles between its base
+    line (that many em below the middle) and the middle of its ink, so that rows stay even and no
+    letter leaves its key. `rim` is a colour drawn round it."""
+    _, left, top, right, bottom, path = glyph_of(text)
+    centred = -(top + bottom) / 2
+    y = cy + size * (base_line * (1 - settle) + centred / 1000 * settle)
+    x = cx - (left + right) / 2 * size / 1000
+    place = 'transform="translate(%s %s) scale(%.5f)"' % (number(x), number(y), size / 1000)
+    under = ('<path %s d="%s" fill="none" stroke="%s" stroke-width="%.0f" '
+             'stroke-linejoin="round"/>' % (place, path, rim, 2200 / size)) if rim else ""
+    return under + '<path %s d="%s" fill="%s"/>' % (place, path, colour)
+
+
+def key_face(key, colour, strong):
+    """A cap in its finger's colour, full for the keys of rest; white where colour is None."""
+    fill = (colour if strong else mix(colour, WHITE, 0.45)) if colour else WHITE
+    edge = mix(colour, INK, 0.45) if colour else GREY
+    line = 2.0 if strong else 1.2
+    half = line / 2
+    return ('<rect x="%s" y="%s" width="%s" height="%s" rx="5.5" fill="#000" '
+            'fill-opacity=".16"/>'
+            '<rect x="%s" y="%s" width="%s" height="%s" rx="5" fill="%s" stroke="%s" '
+            'stroke-width="%s"/>'
+            % (number(key.x + 0.6), number(key.y + 2), number(key.width), number(key.height),
+               number(key.x + half), number(key.y + half), number(key.width - line),
+               number(key.height - line), fill, edge, line))
+
+
+def ink_on(colour, strong):
+    """The colour of a text on a cap, and of its rim."""
+    if strong:
+        return WHITE, mix(colour, INK, 0.6)
+    return (INK if colour else "#5B6B75"), None
+
+
+def both_letters(tables, key, colour, strong):
+    """The Arabic letter large, the Latin one small in the corner."""
+    texts = tables["caps"][key.cap]
+    fill, rim = ink_on(colour, strong)
+    latin = texts["englishShift"] if texts["english"].isalpha() else texts["english"]
+    if texts["arabic"] == texts["english"]:
+        return written(latin, *key.centre(), key.height * 0.52, fill, rim=rim)
+    _, left, _, right, _, _ = glyph_of(texts["arabic"])
+    size = min(key.height * 0.60, key.width * 0.60 / (right - left) * 1000)
+    half = (right - left) / 2 * size / 1000
+    cx = min(key.x + key.width * 0.62, key.x + key.width - 3.5 - half)
+    return (written(texts["arabic"], cx, key.y + key.height * 0.56, size, fill, base_line=0.22,
+                    rim=rim)
+            + written(latin, key.x + key.width * 0.22, key.y + key.height * 0.27,
+                      key.height * 0.30, fill, settle=0.7))
+
+
+def named(tables, key, colour, size):
+    fill, _ = ink_on(colour, strong=False)
+    return written(tables["caps"][key.cap]["arabic"], *key.centre(), size, fill,
+                   base_line=0.22, settle=0.4)
+
+
+def plate(x, y, width, height, radius=11):
+    """The keyboard's body under the caps."""
+    return ('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="#000" fill-opacity=".14"/>'
+            '<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="%s" stroke="%s" '
+            'stroke-width="2"/>'
+            % (number(x + 3), number(y + 4), number(width), number(height), radius,
+               number(x), number(y), number(width), number(height), radius, LIGHT_GREY, INK))
+
+
+def plate_of(keys, margin):
+    left, top = min(k.x for k in keys) - margin, min(k.y for k in keys) - margin
+    right = max(k.x + k.width for k in keys) + margin
+    bottom = max(k.y + k.height for k in keys) + margin
+    return plate(left, top, right - left, bottom - top)
+
+
+def coloured_hand(hand, used, x, y, scale):
+    """A hand at rest, its left top corner at (x, y); only the fingers used have their colour."""
+    body = hands.left_hand(None, True, hand, lambda f: FINGER_COLOURS[f] if f in used else None)
+    if hand == "right":
+        body = hands.mirrored(body)
+    return '<g transform="translate(%s %s) scale(%s)">%s</g>' % (number(x), number(y), scale, body)
+
+
+# The charts ----------------------------------------------------------------------------------
+
+
+def names_of_fingers(x, y, step):
+    """The names under one another at the right of their colours."""
+    out = []
+    for place, (finger, name) in enumerate(FINGER_NAMES.items()):
+        row = y + place * step
+        out.append('<circle cx="%s" cy="%s" r="8" fill="%s" stroke="%s" stroke-width="2"/>'
+                   % (x, row, FINGER_COLOURS[finger], mix(FINGER_COLOURS[finger], INK, 0.45)))
+        _, left, _, right, _, _ = glyph_of(name)
+        size = 18
+        out.append(written(name, x - 17 - (right - left) / 2 * size / 1000, row, size, INK,
+                           base_line=0.26, settle=0.0))
+    return "".join(out)
+
+
+def whole_keyboard(tables):
+    told, guide = strikers(tables), guide_caps(tables)
+    keys = [VIEWS[146].key(tables, cap) for cap in MAIN_BLOCK]
+    body = [plate_of(keys, 10)]
+    for key in keys:
+        colour = FINGER_COLOURS[told[key.cap][1]] if key.cap in told else None
+        body.append(key_face(key, colour, key.cap in guide))
+        if len(tables["caps"][key.cap]["english"]) == 1:
+            body.append(both_letters(tables, key, colour, key.cap in guide))
+        else:
+            body.append(named(tables, key, colour, 13.5 if key.width > 60 else 11))
+    for hand, x in (("left", 14), ("right", 545 - 14 - 128 * 1.42)):
+        used = {finger for side, finger in told.values() if side == hand}
+        body.append(coloured_hand(hand, used, x, 196, 1.42))
+    body.append(names_of_fingers(300, 252, 31))
+    return framed(545, 416, "".join(body))
+
+
+def numeric_pad(tables):
+    owner = {cap: finger for finger, caps in PAD_FINGERS.items() for cap in caps}
+    keys = [VIEWS[147].key(tables, cap) for cap in PAD]
+    body = [plate_of(keys, 10)]
+    for key in keys:
+        texts = tables["caps"][key.cap]
+        colour, strong = FINGER_COLOURS[owner[key.cap]], key.cap in PAD_GUIDE
+        fill, rim = ink_on(colour, strong)
+        text = texts["sign"] or texts["arabic"]
+        size = 13 if len(text) > 1 else 22
+        body.append(key_face(key, colour, strong) + written(text, *key.centre(), size, fill,
+                                                            rim=rim))
+    body.append(coloured_hand("right", set(PAD_FINGERS), 220 / 2 - 64 * 1.3 - 4, 238, 1.22))
+    return framed(220, 417, "".join(body))
+
+
+def laid_hand(hand, guide, keys):
+    """A hand whose coloured fingers lie on the lower edge of their guide keys, so that the letters
+    stay in sight; the right thumb has the space bar."""
+    aims, used = {}, {}
+    for cap, (side, finger) in guide.items():
+        if side == hand:
+            x, y = keys[cap].centre()
+            aims[finger] = (x, y + keys[cap].height * 0.36)
+            used[finger] = FINGER_COLOURS[finger]
+    if hand == "right":
+        used["thumb"] = FINGER_COLOURS["thumb"]
+    return LaidHand(hand, used, aims=aims)
+
+
+def guide_row(tables):
+    """Drawn in the units of the laid hands and then enlarged."""
+    guide, told = guide_caps(tables), strikers(tables)
+    keys = {cap: VIEWS[148].key(tables, cap) for cap in MAIN_BLOCK}
+    body = [plate_of(keys.values(), 8)]
+    for cap, key in keys.items():
+        colour = FINGER_COLOURS[told[cap][1]] if cap in guide or cap == SPACE else None
+        body.append(key_face(key, colour, cap in guide))
+        if cap in guide:
+            body.append(written(tables["caps"][cap]["arabic"], key.centre()[0], key.y + 10, 14.5,
+                                WHITE, base_line=0.18, settle=0.7,
+                                rim=mix(colour, INK, 0.6)))
+    for hand in ("left", "right"):
+        laid = laid_hand(hand, guide, keys)
+        body += [laid.whole(0.85), laid.coloured_fingers()]
+    return framed(500, 270, '<g transform="translate(%s %s) scale(%s)">%s</g>'
+                  % (*GUIDE_PLACE, GUIDE_SCALE, "".join(body)))
+
+
+CHARTS = {146: whole_keyboard, 147: numeric_pad, 148: guide_row}
+
+
+def main(tables_file, folder):
+    tables = json.loads(Path(tables_file).read_text(encoding="utf-8"))
+    Path(folder).mkdir(parents=True, exist_ok=True)
+    for id_, draw in CHARTS.items():
+        (Path(folder) / ("%d.svg" % id_)).write_text(draw(tables), encoding="utf-8")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 3:
+        sys.exit("usage: charts.py TABLES_FILE OUTDIR")
+    main(*sys.argv[1:])
