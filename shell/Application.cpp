@@ -1,0 +1,167 @@
+#include "shell/Application.h"
+
+#include "context/FatalError.h"
+#include "shell/Printing.h"
+#include "shell/Program.h"
+#include "shell/base/ImageControl.h"
+#include "shell/platform/CapsLock.h"
+#include "shell/platform/Fonts.h"
+#include "shell/platform/PlatformRecord.h"
+#include "shell/platform/SingleInstance.h"
+#include "shell/platform/SoundPlayer.h"
+#include "shell/platform/SystemInformation.h"
+#include "shell/platform/TextConversion.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+#include <functional>
+
+static void InitialiseResources()
+{
+    Q_INIT_RESOURCE(pictures);
+    Q_INIT_RESOURCE(fonts);
+}
+
+namespace keyfluent::shell
+{
+namespace
+{
+
+constexpr int failureStatus = 1;
+
+// Every failure that ends the program arrives here, from whatever event it comes.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    std::function<void(const context::FatalError&)> onFailure;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const context::FatalError& failure) {
+            onFailure(failure);
+            return true;
+        }
+    }
+};
+
+// The folder of the path by which the program was started: of the link where that is one, so that
+// a folder of a person's own needs to hold no more of the program than a link.
+QString StartFolder(const char* startedAs)
+{
+    const QString path = QFile::decodeName(startedAs);
+    if (path.contains(u'/')) {
+        return QFileInfo(QDir::current(), path).absolutePath();
+    }
+    const QString found = QStandardPaths::findExecutable(path);
+    return found.isEmpty() ? QCoreApplication::applicationDirPath()
+                           : QFileInfo(found).absolutePath();
+}
+
+void ShowCritical(const QString& text)
+{
+    QMessageBox box(QMessageBox::Critical, QString(), text, QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void ShowMessage(const QString& text)
+{
+    QMessageBox box(QMessageBox::NoIcon, QString(), text, QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+QColor PickColour(const QColor& initial, QWidget* parent)
+{
+    return QColorDialog::getColor(initial, parent, QString(), QColorDialog::DontUseNativeDialog);
+}
+
+// The same looks on every desktop.
+void SetLooks()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette = QApplication::style()->standardPalette();
+    palette.setColor(QPalette::Highlight, QColor(0x26, 0x73, 0x7A));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+    LoadFonts();
+    QApplication::setFont(FormFont(10, false));
+}
+
+struct Machine {
+    CapsLockWatch capsLock;
+    SoundPlayer sounds;
+    SingleInstance instance;
+};
+
+Desktop RealDesktop(Machine& machine)
+{
+    Desktop desktop;
+    desktop.screenSize = [] { return QGuiApplication::primaryScreen()->size(); };
+    desktop.isFirstInstance = [&machine] { return machine.instance.Acquire(); };
+    desktop.showCritical = ShowCritical;
+    desktop.showMessage = ShowMessage;
+    desktop.startSystemInformation = [] { return ShowSystemInformation(); };
+    desktop.pickColour = PickColour;
+    desktop.printPages = PrintPages;
+    desktop.noteKey = [&machine](const QKeyEvent& event) { machine.capsLock.KeyEvent(event); };
+    desktop.refreshKeyboard = [&machine] { machine.capsLock.Refresh(); };
+    desktop.endProcess = [](int status) { QCoreApplication::exit(status); };
+    return desktop;
+}
+
+} // namespace
+
+int RunProgram(int argc, char** argv)
+{
+    // A file-size limit is a failure to report like any other, not a signal.
+    std::signal(SIGXFSZ, SIG_IGN);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+    const QString folder = StartFolder(argv[0]);
+    Application application(argc, argv);
+    InitialiseResources();
+    InstallControlAccess();
+    QApplication::setApplicationName(QStringLiteral("KeyFluent"));
+    QApplication::setDesktopFileName(QStringLiteral("keyfluent"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/keyfluent-64.png")));
+    // Between two windows there is none, and the program goes on.
+    QApplication::setQuitOnLastWindowClosed(false);
+    SetLooks();
+
+    Machine machine;
+    const context::Platform platform = MakePlatform(machine.capsLock, machine.sounds, folder);
+    Program program(platform, RealDesktop(machine), FromQString(folder));
+    int failed = 0;
+    application.onFailure = [&](const context::FatalError& failure) {
+        if (failed++ > 0) {
+            return; // one report is enough
+        }
+        std::fprintf(stderr, "KeyFluent: %s\n", failure.what());
+        ShowCritical(QString::fromUtf8(failure.what()));
+        program.End(failureStatus);
+    };
+    QTimer::singleShot(0, &application, [&program] { program.Begin(); });
+    const int status = QApplication::exec();
+    return failed > 0 ? failureStatus : status;
+}
+
+} // namespace keyfluent::shell

@@ -1,0 +1,292 @@
+#include "shell/base/Form.h"
+
+#include "context/SessionContext.h"
+#include "shell/Program.h"
+#include "shell/base/Twips.h"
+#include "shell/platform/Fonts.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include <utility>
+
+namespace keyfluent::shell
+{
+namespace
+{
+
+constexpr int titleRule = Pixels(405);
+constexpr int flashInterval = 100; // milliseconds
+constexpr int flashTicks = 3;
+
+bool IsReturn(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+Form::Form(Program& program, const char* name, QSize size)
+    : QWidget(program.Backdrop(), Qt::Dialog | Qt::FramelessWindowHint), program_(program),
+      arabic_(program.State().arabicInterface)
+{
+    setObjectName(QString::fromLatin1(name));
+    setWindowModality(Qt::ApplicationModal);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFont(FormFont(10, false));
+    setLayoutDirection(Qt::LeftToRight); // places are told and never mirrored by the toolkit
+    setFixedSize(size);
+    btnTimer_.setObjectName(QStringLiteral("btnTimer"));
+    btnTimer_.setInterval(flashInterval);
+    connect(&btnTimer_, &QTimer::timeout, this, &Form::TickFlash);
+}
+
+Form::~Form() = default;
+
+context::SessionContext& Form::state()
+{
+    return program_.State();
+}
+
+void Form::Exec()
+{
+    CentreOnScreen();
+    show();
+    raise();
+    activateWindow();
+    if (!unloaded_) {
+        loop_.exec();
+    }
+    hide();
+}
+
+Continuation Form::TakeContinuation()
+{
+    return std::exchange(continuation_, {});
+}
+
+void Form::Unload(Continuation after)
+{
+    if (unloaded_) {
+        return;
+    }
+    unloaded_ = true;
+    btnTimer_.stop();
+    continuation_ = std::move(after);
+    hide();
+    loop_.quit();
+}
+
+void Form::Abandon()
+{
+    Unload();
+    continuation_ = {};
+}
+
+void Form::ShowAbove(std::unique_ptr<Form> form)
+{
+    program_.ShowModal(std::move(form));
+}
+
+void Form::CentreOnScreen()
+{
+    const QWidget* backdrop = program_.Backdrop();
+    const QScreen* screen =
+        backdrop != nullptr ? backdrop->screen() : QGuiApplication::primaryScreen();
+    QRect place(QPoint(), size());
+    place.moveCenter(screen->geometry().center());
+    move(place.topLeft());
+}
+
+TextLabel* Form::AddLabel(const char* name, const QRect& place, std::u16string_view caption,
+                          double points, bool bold)
+{
+    auto* label = new TextLabel(this);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(FormFont(points, bold));
+    label->setGeometry(place);
+    label->SetReading(arabic_);
+    label->SetCaption(caption);
+    return label;
+}
+
+TextLabel* Form::AddTitle(std::u16string_view caption, const char* name)
+{
+    constexpr int margin = 12;
+    TextLabel* title =
+        AddLabel(name, {margin, 1, width() - 2 * margin, titleRule - 2}, caption, 11, true);
+    title->SetSide(Side::Centre);
+    return title;
+}
+
+ImageControl* Form::AddImage(const char* name, QPoint place, int bitmap)
+{
+    auto* image = new ImageControl(this);
+    image->setObjectName(QString::fromLatin1(name));
+    image->SetBitmap(bitmap);
+    image->move(place);
+    return image;
+}
+
+Form::Button Form::AddButton(const char* imageName, const char* labelName, QPoint place,
+                             std::u16string_view caption, std::function<void()> handler)
+{
+    Button button;
+    button.image = AddImage(imageName, place, faceOut);
+    button.image->SetKind(ImageControl::Kind::Button);
+    button.label = AddLabel(labelName, button.image->geometry(), caption, 10, true);
+    button.label->SetSide(Side::Centre);
+    button.image->SetCaptionName(button.label->text());
+    const std::size_t entry = buttons_.size();
+    buttons_.push_back({button, std::move(handler)});
+    connect(button.image, &ImageControl::clicked, this,
+            [this, entry] { buttons_[entry].handler(); });
+    connect(button.image, &ImageControl::hovered, this,
+            [this, image = button.image] { LightButton(*image); });
+    return button;
+}
+
+void Form::MoveButton(const Button& button, QPoint place)
+{
+    button.image->move(place);
+    button.label->setGeometry(button.image->geometry());
+}
+
+void Form::FlashOnReturn(const Button& button)
+{
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        returnEntry_ =
+            buttons_[i].button.image == button.image ? static_cast<int>(i) : returnEntry_;
+    }
+}
+
+void Form::FlashOnEscape(const Button& button)
+{
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        escapeEntry_ =
+            buttons_[i].button.image == button.image ? static_cast<int>(i) : escapeEntry_;
+    }
+}
+
+void Form::LightButton(ImageControl& image)
+{
+    for (ButtonEntry& entry : buttons_) {
+        if (entry.button.image == &image && !entry.lit) {
+            image.SetBitmap(faceIn);
+            entry.lit = true;
+        }
+    }
+}
+
+// There is no leave event: a lit button goes dark when the pointer next moves over the bare window.
+void Form::PutOutButtons()
+{
+    for (ButtonEntry& entry : buttons_) {
+        if (entry.lit) {
+            entry.button.image->SetBitmap(faceOut);
+            entry.lit = false;
+        }
+    }
+}
+
+void Form::StartFlash(int entry)
+{
+    flashing_ = entry;
+    flashCount_ = 0;
+    if (!btnTimer_.isActive()) {
+        btnTimer_.start();
+    }
+}
+
+void Form::TickFlash()
+{
+    ButtonEntry& entry = buttons_[static_cast<std::size_t>(flashing_)];
+    ++flashCount_;
+    entry.button.image->SetBitmap(flashCount_ == 1 ? faceOut : faceIn);
+    if (flashCount_ < flashTicks) {
+        return;
+    }
+    flashCount_ = 0;
+    entry.button.image->SetBitmap(faceOut);
+    btnTimer_.stop();
+    entry.handler();
+}
+
+bool Form::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate && !unloaded_) {
+        Activated();
+    }
+    return handled;
+}
+
+void Form::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    if (striped_) {
+        PaintStripes(painter, event->region().boundingRect());
+        painter.setPen(Qt::black);
+        painter.drawRect(0, 0, width() - 1, height() - 1);
+        painter.fillRect(0, titleRule, width(), 1, Qt::black);
+    }
+    PaintExtra(painter);
+}
+
+void Form::mouseMoveEvent(QMouseEvent*)
+{
+    PutOutButtons();
+}
+
+void Form::mousePressEvent(QMouseEvent*)
+{
+    if (closesOnPress_) {
+        Unload();
+    }
+}
+
+void Form::keyPressEvent(QKeyEvent* event)
+{
+    if (IsReturn(*event) && returnEntry_ >= 0) {
+        StartFlash(returnEntry_);
+    } else if (event->key() == Qt::Key_Escape && escapeEntry_ >= 0) {
+        StartFlash(escapeEntry_);
+    } else if (event->key() == Qt::Key_Space && closesOnPress_) {
+        Unload();
+    } else {
+        KeyReached(*event);
+    }
+}
+
+void Form::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (unloaded_) {
+        return;
+    }
+    if (onClose_) {
+        onClose_();
+    } else if (escapeEntry_ >= 0) {
+        buttons_[static_cast<std::size_t>(escapeEntry_)].handler();
+    } else if (buttons_.size() == 1) {
+        buttons_.front().handler();
+    } else {
+        Unload();
+    }
+}
+
+void PaintStripes(QPainter& painter, const QRect& place)
+{
+    static const QColor stripes[] = {QColor(244, 244, 244), QColor(255, 255, 255),
+                                     QColor(243, 243, 243), QColor(238, 238, 238)};
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        painter.fillRect(place.left(), y, place.width(), 1, stripes[y % 4]);
+    }
+}
+
+} // namespace keyfluent::shell

@@ -1,0 +1,129 @@
+#include "shell/base/TextLabel.h"
+
+#include "shell/platform/TextConversion.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace keyfluent::shell
+{
+namespace
+{
+
+// Room for a text that is laid out without a width of its own.
+constexpr int widest = 100000;
+
+QSizeF LaidOut(const QString& text, const QFont& font, const QTextOption& option, int width)
+{
+    qreal height = 0;
+    qreal broadest = 0;
+    for (const QString& paragraph : text.split(u'\n')) {
+        QTextLayout layout(paragraph, font);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            height += line.height();
+            broadest = std::max(broadest, line.naturalTextWidth());
+        }
+        layout.endLayout();
+    }
+    return {broadest, height};
+}
+
+} // namespace
+
+TextLabel::TextLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setMargin(0);
+}
+
+void TextLabel::SetCaption(std::u16string_view caption)
+{
+    const QString text = LabelText(caption);
+    if (text != this->text()) {
+        setText(text);
+    }
+}
+
+void TextLabel::SetSide(Side side)
+{
+    side_ = side;
+    update();
+}
+
+void TextLabel::SetRightToLeft(bool rightToLeft)
+{
+    setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+void TextLabel::SetReading(bool arabic)
+{
+    SetRightToLeft(arabic);
+    SetSide(arabic ? Side::Right : Side::Left);
+}
+
+QTextOption TextLabel::Option() const
+{
+    QTextOption option;
+    option.setTextDirection(layoutDirection());
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    switch (side_) {
+    case Side::Left:
+        option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+        break;
+    case Side::Centre:
+        option.setAlignment(Qt::AlignHCenter);
+        break;
+    case Side::Right:
+        option.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
+        break;
+    }
+    return option;
+}
+
+QSize TextLabel::NeededSize(int width) const
+{
+    const QSizeF size = LaidOut(text(), font(), Option(), width);
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+int TextLabel::FitHeight()
+{
+    const int needed = NeededSize(width()).height();
+    resize(width(), needed);
+    return needed;
+}
+
+QSize TextLabel::sizeHint() const
+{
+    return NeededSize(widest);
+}
+
+void TextLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, foregroundRole()));
+    qreal top = std::max(0.0, (height() - NeededSize(width()).height()) / 2.0);
+    for (const QString& paragraph : text().split(u'\n')) {
+        QTextLayout layout(paragraph, font());
+        layout.setTextOption(Option());
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width());
+            line.setPosition({0, top});
+            top += line.height();
+        }
+        layout.endLayout();
+        layout.draw(&painter, {0, 0});
+    }
+}
+
+} // namespace keyfluent::shell

@@ -1,0 +1,467 @@
+#include "shell/forms/frmLesson.h"
+
+#include "keyboard/KeyCodes.h"
+#include "session/Keystrokes.h"
+#include "session/Loading.h"
+#include "session/Pointer.h"
+#include "session/Review.h"
+#include "session/Selection.h"
+#include "session/Ticks.h"
+#include "shell/Program.h"
+#include "shell/base/Pictures.h"
+#include "shell/base/Twips.h"
+#include "shell/forms/frmBlack.h"
+#include "shell/forms/frmNotAllowed.h"
+#include "shell/forms/frmResult.h"
+#include "shell/forms/frmStopNote.h"
+#include "shell/lesson/GaugeBar.h"
+#include "shell/lesson/KeyboardView.h"
+#include "shell/platform/Fonts.h"
+#include "shell/platform/KeyMap.h"
+#include "shell/text/FieldEditor.h"
+#include "shell/text/RowView.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+namespace keyfluent::shell
+{
+namespace
+{
+
+using session::FieldName;
+using session::PushPicture;
+using session::TimerName;
+
+constexpr int ruleUnderTitle = Pixels(404);
+constexpr int ruleWithoutCounter = Pixels(7680);
+
+QRect PixelsOf(const session::Box& box)
+{
+    return PixelRect(box.left, box.top, box.width, box.height);
+}
+
+} // namespace
+
+frmLesson::frmLesson(Program& program)
+    : Form(program, "frmLesson", {Pixels(session::lessonWidth), Pixels(session::lessonHeight)}),
+      lesson_(program.State(), program.Machine(), window_)
+{
+    FillWindow();
+    session::Load(lesson_);
+    BuildLabels();
+    BuildPictures();
+    BuildFields();
+    BuildTimers();
+    ActOnClose([this] {
+        session::PressStop(lesson_);
+        AfterEvent();
+    });
+    if (frmBlack* backdrop = program.MainWindow()) {
+        backdrop->ShowStepButtons(lesson_.imgBackShown, lesson_.imgNextShown,
+                                  lesson_.imgDuplicateShown);
+    }
+    program.World().refreshKeyboard();
+    session::Activate(lesson_);
+    AfterEvent();
+}
+
+frmLesson::~frmLesson() = default;
+
+void frmLesson::FillWindow()
+{
+    window_.paintBackground = [this] { update(); };
+    window_.focusOrigin = [this] { FocusOrigin(); };
+    // The model text is drawn without a caret, and the copy shows one in the review alone, where
+    // the editor has its own.
+    window_.hideCaret = [](FieldName) {};
+    window_.showCaret = [](FieldName) {};
+    window_.unload = [this] {
+        for (QTimer* timer : timers_) {
+            timer->stop();
+        }
+    };
+    window_.showResult = [this] {
+        next_ = [&program = program()] { return std::make_unique<frmResult>(program); };
+    };
+    window_.showStopNote = [this](int note) {
+        next_ = [&program = program(), note] {
+            return std::make_unique<frmStopNote>(program, note);
+        };
+    };
+    window_.showNotAllowed = [this] { ShowAbove(std::make_unique<frmNotAllowed>(program())); };
+}
+
+void frmLesson::BuildFields()
+{
+    const QFont font = ExerciseFont(lesson_.txtOrigin.fontSize);
+    txtOrigin_ = new RowView(RowView::Keep::Selection, font, this);
+    txtOrigin_->setObjectName(QStringLiteral("txtOrigin"));
+    txtTest_ = new RowView(RowView::Keep::End, font, this);
+    txtTest_->setObjectName(QStringLiteral("txtTest"));
+    txtOrigin_->setFocusPolicy(Qt::StrongFocus);
+    txtTest_->setFocusPolicy(Qt::NoFocus);
+    const QPixmap pointer = LoadBitmap(session::customPointer, devicePixelRatioF());
+    for (RowView* view : {txtOrigin_, txtTest_}) {
+        view->setCursor(QCursor(pointer, 1, 1));
+        view->installEventFilter(this);
+    }
+    connect(txtOrigin_, &RowView::pressed, this, [this] { PressField(FieldName::Origin); });
+    connect(txtTest_, &RowView::pressed, this, [this] { PressField(FieldName::Test); });
+    connect(txtOrigin_, &RowView::clicked, this, [this] {
+        session::ClickOrigin(lesson_);
+        AfterEvent();
+    });
+}
+
+TextLabel* frmLesson::AddRecordLabel(const char* name, session::Label& label, Side side)
+{
+    TextLabel* widget = AddLabel(name, PixelsOf(label.box), label.caption, label.fontSize, false);
+    widget->SetSide(side);
+    labels_.push_back({&label, widget});
+    return widget;
+}
+
+void frmLesson::BuildLabels()
+{
+    const Side reading = Arabic() ? Side::Right : Side::Left;
+    AddRecordLabel("lblTitle", lesson_.lblTitle, Side::Centre)->setFont(FormFont(11, true));
+    AddRecordLabel("Label7", lesson_.label7, Side::Centre);
+    AddRecordLabel("lblTimer", lesson_.lblTimer, Side::Centre)->setFont(FormFont(12, true));
+    AddRecordLabel("lblResulotion", lesson_.lblResulotion, reading);
+    AddRecordLabel("lblChar", lesson_.lblChar, reading);
+    AddRecordLabel("lblMark", lesson_.lblMark, Side::Left)->setFont(FormFont(9, true));
+    AddRecordLabel("lblSpeed", lesson_.lblSpeed, Side::Left)->setFont(FormFont(9, true));
+    constexpr Side sides[] = {Side::Centre, Side::Right, Side::Left,
+                              Side::Left,   Side::Right, Side::Centre};
+    for (int number = 1; number <= session::scaleMarkCount; ++number) {
+        const QByteArray name = "Label" + QByteArray::number(number);
+        AddRecordLabel(name.constData(), lesson_.ScaleMark(number), sides[number - 1])
+            ->setFont(FormFont(8, false));
+    }
+    pbMark_ = new GaugeBar(this, QColor(0x2F, 0x7F, 0x86));
+    pbMark_->setObjectName(QStringLiteral("pbMark"));
+    pbMark_->setAccessibleName(QString::fromStdU16String(lesson_.lblResulotion.caption).trimmed());
+    pbSpeed_ = new GaugeBar(this, QColor(0xF2, 0xA5, 0x41));
+    pbSpeed_->setObjectName(QStringLiteral("pbSpeed"));
+    pbSpeed_->setAccessibleName(QString::fromStdU16String(lesson_.lblChar.caption).trimmed());
+}
+
+void frmLesson::BuildPictures()
+{
+    keyboard_ = new KeyboardView(this);
+    keyboard_->setObjectName(QStringLiteral("T"));
+    keyboard_->setAccessibleName(Arabic() ? QStringLiteral("لوحة المفاتيح")
+                                          : QStringLiteral("Keyboard"));
+    struct Push {
+        ImageControl** control;
+        const char* name;
+        const session::Image* image;
+        PushPicture picture;
+        QString caption;
+    };
+    const auto word = [this](const char16_t* arabic, const char16_t* english) {
+        return QString::fromUtf16(Arabic() ? arabic : english);
+    };
+    const Push pushes[] = {
+        {&imgRest_, "imgRest", &lesson_.imgRest, PushPicture::Rest, word(u"استراحة", u"Break")},
+        {&imgResume_, "imgResume", &lesson_.imgResume, PushPicture::Resume,
+         word(u"متابعة", u"Resumption")},
+        {&imgStop_, "imgStop", &lesson_.imgStop, PushPicture::Stop, word(u"توقيف", u"Stop")},
+    };
+    for (const Push& push : pushes) {
+        ImageControl* image =
+            AddImage(push.name, PixelsOf(push.image->box).topLeft(), push.image->bitmap);
+        image->SetKind(ImageControl::Kind::Button);
+        image->setFocusPolicy(Qt::NoFocus); // all keys are the exercise's
+        image->SetCaptionName(push.caption);
+        connect(image, &ImageControl::hovered, this, [this, picture = push.picture] {
+            session::MoveOver(lesson_, picture);
+            AfterEvent();
+        });
+        *push.control = image;
+    }
+    const auto tell = [this](void (*operation)(session::Lesson&)) {
+        return [this, operation] {
+            operation(lesson_);
+            AfterEvent();
+        };
+    };
+    connect(imgRest_, &ImageControl::clicked, this, tell(session::ClickRest));
+    connect(imgResume_, &ImageControl::clicked, this, tell(session::ClickResume));
+    connect(imgStop_, &ImageControl::pressed, this, tell(session::PressStop));
+    imgLeftHand_ = AddImage("imgLeftHand", PixelsOf(lesson_.imgLeftHand.box).topLeft(),
+                            lesson_.imgLeftHand.bitmap);
+    imgRightHand_ = AddImage("imgRightHand", PixelsOf(lesson_.imgRightHand.box).topLeft(),
+                             lesson_.imgRightHand.bitmap);
+}
+
+void frmLesson::BuildTimers()
+{
+    constexpr const char* names[] = {"tmrClock",  "tmrAuto",   "EraseChar",
+                                     "tmrErrKey", "tmrHilite", "tmrSelection"};
+    for (std::size_t i = 0; i < timers_.size(); ++i) {
+        auto* timer = new QTimer(this);
+        timer->setObjectName(QString::fromLatin1(names[i]));
+        timer->setTimerType(Qt::PreciseTimer);
+        timer->setInterval(lesson_.timers[i].Interval());
+        connect(timer, &QTimer::timeout, this, [this, i] { Tick(static_cast<TimerName>(i)); });
+        timers_[i] = timer;
+    }
+}
+
+void frmLesson::AfterEvent()
+{
+    if (lesson_.unloaded) {
+        Unload(std::exchange(next_, {}));
+        return;
+    }
+    SyncTimers();
+    Refresh();
+}
+
+void frmLesson::SyncTimers()
+{
+    for (std::size_t i = 0; i < timers_.size(); ++i) {
+        const session::Timer& record = lesson_.timers[i];
+        if (!record.Enabled()) {
+            timers_[i]->stop();
+        } else if (record.Starts() != startsSeen_[i]) {
+            timers_[i]->start();
+            startsSeen_[i] = record.Starts();
+        }
+    }
+}
+
+void frmLesson::Tick(TimerName timer)
+{
+    const bool shutKeysOut = timer == TimerName::ErrKey || timer == TimerName::EraseChar;
+    session::Tick(lesson_, timer);
+    if (shutKeysOut && !lesson_.unloaded && !lesson_.TimerOf(timer).Enabled()) {
+        RepeatHeldShift();
+    }
+    AfterEvent();
+}
+
+// A Shift that went down while keys were shut out has been lost, and this desktop does not repeat
+// a held Shift: so it is told once more.
+void frmLesson::RepeatHeldShift()
+{
+    if (!heldShifts_.empty() && !lesson_.shiftDown) {
+        session::KeyDown(lesson_, keyboard::keyShift);
+    }
+}
+
+void frmLesson::Refresh()
+{
+    RefreshFields();
+    keyboard_->Show(lesson_.caps);
+    RefreshPicture(*imgLeftHand_, lesson_.imgLeftHand);
+    RefreshPicture(*imgRightHand_, lesson_.imgRightHand);
+    RefreshPicture(*imgRest_, lesson_.imgRest);
+    RefreshPicture(*imgResume_, lesson_.imgResume);
+    RefreshPicture(*imgStop_, lesson_.imgStop);
+    pbMark_->Show(lesson_.pbMark);
+    pbSpeed_->Show(lesson_.pbSpeed);
+    RefreshLabels();
+}
+
+void frmLesson::RefreshFields()
+{
+    const session::TextField* editable = session::EditableField(lesson_);
+    if (editable != nullptr && editor_ == nullptr) {
+        editor_ = editable == &lesson_.txtTest ? MakeEditor("txtTest", lesson_.txtTest)
+                                               : MakeEditor("txtOrigin", lesson_.txtOrigin);
+    }
+    const auto show = [this, editable](RowView& view, const session::TextField& field) {
+        view.setGeometry(PixelsOf(field.box));
+        view.setVisible(field.visible && &field != editable);
+        if (&field != editable) {
+            view.Show(field);
+        }
+    };
+    show(*txtOrigin_, lesson_.txtOrigin);
+    show(*txtTest_, lesson_.txtTest);
+    if (editor_ != nullptr) {
+        editor_->setGeometry(PixelsOf(editable->box));
+        editor_->Show(*editable);
+        editor_->show();
+    }
+}
+
+void frmLesson::RefreshLabels()
+{
+    for (const RecordLabel& label : labels_) {
+        label.widget->SetCaption(label.record->caption);
+        label.widget->SetRightToLeft(label.record->rightToLeft);
+        label.widget->setVisible(label.record->visible);
+    }
+}
+
+void frmLesson::RefreshPicture(ImageControl& control, const session::Image& image)
+{
+    control.SetBitmap(image.bitmap);
+    control.setEnabled(image.enabled);
+    control.setVisible(image.visible);
+}
+
+FieldEditor* frmLesson::MakeEditor(const char* name, session::TextField& field)
+{
+    auto* editor = new FieldEditor(ExerciseFont(field.fontSize), this);
+    editor->setObjectName(QString::fromLatin1(name));
+    (&field == &lesson_.txtTest ? txtTest_ : txtOrigin_)->setObjectName(QString());
+    editor->AllowInputMethod(true);
+    editor->installEventFilter(this);
+    connect(editor, &FieldEditor::edited, this,
+            [this, &field](int position, int removed, const std::u16string& inserted) {
+                session::EditField(field, position, removed, inserted);
+            });
+    connect(editor, &FieldEditor::selected, this,
+            [&field](int start, int length) { field.Select(start, length); });
+    if (&field == &lesson_.txtTest) {
+        editor->SetReturn(FieldEditor::Return::IsReported);
+        connect(editor, &FieldEditor::returnPressed, this, [this] {
+            session::PressEnterInReview(lesson_);
+            AfterEvent();
+        });
+    }
+    return editor;
+}
+
+void frmLesson::FocusOrigin()
+{
+    QWidget* field = lesson_.context.freeText && editor_ != nullptr ? static_cast<QWidget*>(editor_)
+                                                                    : txtOrigin_;
+    if (field != nullptr && !field->hasFocus()) {
+        field->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void frmLesson::Activated()
+{
+    if (lesson_.unloaded) {
+        return;
+    }
+    program().World().refreshKeyboard();
+    session::Activate(lesson_);
+    AfterEvent();
+}
+
+void frmLesson::PaintExtra(QPainter& painter)
+{
+    painter.fillRect(0, ruleUnderTitle, width(), 1, Qt::black);
+    if (lesson_.shape1.visible) {
+        painter.setPen(QPen(QColor(0x6B, 0x7F, 0x8C), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawRoundedRect(QRectF(PixelsOf(lesson_.shape1.box)).adjusted(0.5, 0.5, -0.5, -0.5),
+                                6, 6);
+    } else {
+        painter.fillRect(0, ruleWithoutCounter, width(), 1, Qt::black);
+    }
+}
+
+void frmLesson::mouseMoveEvent(QMouseEvent*)
+{
+    session::MoveOverForm(lesson_);
+    AfterEvent();
+}
+
+void frmLesson::showEvent(QShowEvent* event)
+{
+    Form::showEvent(event);
+    windowHandle()->installEventFilter(this);
+}
+
+bool frmLesson::event(QEvent* event)
+{
+    return Form::event(event);
+}
+
+bool frmLesson::PressField(FieldName field)
+{
+    const bool answered = session::PressField(lesson_, field);
+    AfterEvent();
+    return answered;
+}
+
+// The window sees every key before any control, shortcut or menu of the toolkit does.
+bool frmLesson::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == windowHandle()) {
+        switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            event->accept();
+            return true;
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            return HandleKey(static_cast<QKeyEvent&>(*event));
+        case QEvent::Expose:
+            if (!lesson_.unloaded && windowHandle()->isExposed()) {
+                session::BackgroundDrawn(lesson_);
+            }
+            return false;
+        default:
+            return false;
+        }
+    }
+    if (watched == txtOrigin_ && event->type() == QEvent::FocusOut && !lesson_.unloaded) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            session::OriginLostFocus(lesson_);
+        }
+        return false;
+    }
+    if (editor_ != nullptr && watched == editor_ && event->type() == QEvent::MouseButtonPress) {
+        const bool origin = session::EditableField(lesson_) == &lesson_.txtOrigin;
+        return PressField(origin ? FieldName::Origin : FieldName::Test);
+    }
+    return Form::eventFilter(watched, event);
+}
+
+void frmLesson::NoteShift(const QKeyEvent& event, bool down)
+{
+    if (down) {
+        heldShifts_.insert(event.nativeScanCode());
+    } else {
+        heldShifts_.erase(event.nativeScanCode());
+    }
+}
+
+bool frmLesson::HandleKey(QKeyEvent& event)
+{
+    if (lesson_.unloaded) {
+        return true;
+    }
+    program().World().noteKey(event);
+    const std::uint16_t code = KeyNumber(event, lesson_.context.arabicExercise);
+    const bool down = event.type() == QEvent::KeyPress;
+    if (code == keyboard::keyShift && !event.isAutoRepeat()) {
+        NoteShift(event, down);
+    }
+    if (down) {
+        return PressKey(event);
+    }
+    if (!event.isAutoRepeat()) {
+        session::KeyUp(lesson_, code);
+        AfterEvent();
+    }
+    return true;
+}
+
+// What is left of a key goes on only to the field that the student edits.
+bool frmLesson::PressKey(QKeyEvent& event)
+{
+    const std::uint16_t code = KeyNumber(event, lesson_.context.arabicExercise);
+    const bool hadReview = session::Reviewing(lesson_);
+    const std::uint16_t left = session::KeyDown(lesson_, code);
+    AfterEvent();
+    const bool goesOn = left != 0 && !lesson_.unloaded && editor_ != nullptr &&
+                        (hadReview || lesson_.context.freeText) && editor_->hasFocus();
+    return !goesOn;
+}
+
+} // namespace keyfluent::shell

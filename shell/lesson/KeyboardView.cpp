@@ -1,0 +1,157 @@
+#include "shell/lesson/KeyboardView.h"
+
+#include "shell/base/Form.h"
+#include "shell/base/Twips.h"
+#include "shell/platform/Fonts.h"
+#include "shell/platform/TextConversion.h"
+
+#include <QAccessible>
+#include <QFontMetricsF>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace keyfluent::shell
+{
+namespace
+{
+
+using session::Box;
+using session::CapArray;
+
+constexpr int capMargin = 2; // pixels on either side of a cap's text
+constexpr double radius = 3.5;
+
+QRect PixelsOf(const Box& box) { return PixelRect(box.left, box.top, box.width, box.height); }
+
+QFont DesignedFont(std::size_t cap, const QString& text)
+{
+    switch (keyboard::CapDesigns()[cap].font) {
+    case keyboard::CapFont::Tahoma9Bold:
+        return FormFont(9, true);
+    case keyboard::CapFont::Tahoma825Bold:
+        return FormFont(8.25, true);
+    case keyboard::CapFont::Symbols975Bold:
+        return FormFont(9.75, true);
+    case keyboard::CapFont::Form:
+        break;
+    }
+    // A single character stands larger than a key's name.
+    return text.size() <= 2 ? FormFont(11, false) : FormFont(8.25, false);
+}
+
+QString ShownText(const CapArray& caps, std::size_t cap)
+{
+    const std::u16string_view picture = keyboard::PictureOnCap(static_cast<int>(cap));
+    return ToQString(picture.empty() ? caps.text[cap] : picture);
+}
+
+bool SameCap(const CapArray& left, const CapArray& right, std::size_t cap)
+{
+    return left.foreColour[cap] == right.foreColour[cap] &&
+           left.backColour[cap] == right.backColour[cap] && left.text[cap] == right.text[cap] &&
+           left.rightToLeft[cap] == right.rightToLeft[cap];
+}
+
+} // namespace
+
+KeyboardView::KeyboardView(QWidget* parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+}
+
+void KeyboardView::Show(const CapArray& caps)
+{
+    if (!shown_.has_value() || shown_->box != caps.box) {
+        shown_ = caps;
+        Place(caps);
+        update();
+        return;
+    }
+    for (std::size_t cap = 0; cap < caps.text.size(); ++cap) {
+        if (!SameCap(*shown_, caps, cap)) {
+            shown_->text[cap] = caps.text[cap];
+            shown_->foreColour[cap] = caps.foreColour[cap];
+            shown_->backColour[cap] = caps.backColour[cap];
+            shown_->rightToLeft[cap] = caps.rightToLeft[cap];
+            update(CapRect(cap));
+        }
+    }
+}
+
+void KeyboardView::Place(const CapArray& caps)
+{
+    QRect whole;
+    for (const Box& box : caps.box) {
+        whole |= PixelsOf(box);
+    }
+    setGeometry(whole);
+}
+
+QRect KeyboardView::CapRect(std::size_t cap) const
+{
+    return PixelsOf(shown_->box[cap]).translated(-pos());
+}
+
+QString KeyboardView::LitText() const
+{
+    for (std::size_t cap = 0; shown_.has_value() && cap < shown_->text.size(); ++cap) {
+        const int number = static_cast<int>(cap);
+        const bool modifier = number == keyboard::capCapsLock || number == keyboard::capLeftShift ||
+                              number == keyboard::capRightShift;
+        if (shown_->foreColour[cap] == session::white && !modifier) {
+            return ShownText(*shown_, cap);
+        }
+    }
+    return {};
+}
+
+// The largest face up to the designed one in which the text fits its cap.
+QFont KeyboardView::FittingFont(std::size_t cap, const QString& text) const
+{
+    constexpr int smallest = 8; // pixels
+    QFont font = DesignedFont(cap, text);
+    const int room = CapRect(cap).width() - 2 * capMargin;
+    while (font.pixelSize() > smallest && QFontMetricsF(font).horizontalAdvance(text) > room) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
+    return font;
+}
+
+void KeyboardView::PaintCap(QPainter& painter, std::size_t cap) const
+{
+    static const QColor edge(0x6B, 0x7F, 0x8C);
+    const QRectF place = QRectF(CapRect(cap)).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(QPen(edge, 1));
+    painter.setBrush(QColor::fromRgb(RgbOf(shown_->backColour[cap])));
+    painter.drawRoundedRect(place, radius, radius);
+    const QString text = ShownText(*shown_, cap);
+    if (text.isEmpty()) {
+        return;
+    }
+    painter.setPen(QColor::fromRgb(RgbOf(shown_->foreColour[cap])));
+    painter.setFont(FittingFont(cap, text));
+    QTextOption option(Qt::AlignCenter);
+    option.setTextDirection(shown_->rightToLeft[cap] ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::NoWrap);
+    painter.drawText(place, text, option);
+}
+
+void KeyboardView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.save();
+    painter.translate(-pos());
+    PaintStripes(painter, event->region().boundingRect().translated(pos()));
+    painter.restore();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t cap = 0; shown_.has_value() && cap < shown_->text.size(); ++cap) {
+        if (event->region().intersects(CapRect(cap))) {
+            PaintCap(painter, cap);
+        }
+    }
+}
+
+} // namespace keyfluent::shell
