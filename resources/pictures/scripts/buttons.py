@@ -76,29 +76,33 @@ def exercise(main, second, inside):
             % (second, main, main, second, keys(6.5, main, inside)))
 
 
-def steps(main, second, chosen):
-    """Five steps seen from the front, one for each exercise of a lesson. They look the same to
-    a reader of either direction. The step that is chosen, counted from below, stands out."""
-    return "".join('<rect x="%s" y="%s" width="%s" height="9.4" rx="2.4" fill="%s"/>'
-                   % (-half, top, 2 * half, main if count == chosen else second)
-                   for count, half, top in ((1, 32, 18.5), (2, 27.5, 7), (3, 23, -4.5),
-                                            (4, 18.5, -16), (5, 14, -27.5)))
+def exercises(main, second, inside, chosen):
+    """Three exercises under one another, told apart by their dots; the chosen one stands out."""
+    out = []
+    for count, top in ((1, -29), (2, -9), (3, 11)):
+        fill, dot = (main, inside) if count == chosen else (second, main)
+        out.append('<rect x="-31.5" y="%s" width="42" height="18" rx="4.5" fill="%s"/>'
+                   % (top, fill))
+        out += ['<circle cx="%s" cy="%s" r="3.2" fill="%s"/>'
+                % (-10.5 + (place - (count - 1) / 2) * 10, top + 9, dot)
+                for place in range(count)]
+    return "".join(out)
 
 
-def arrow(direction, main, inside):
-    """An upright arrow on the steps; direction is -1 up, 1 down."""
-    path = "M0 -13.5V10.5M-10 2L0 12.5L10 2"
-    return ('<g transform="scale(1 %s)" fill="none"><path d="%s" stroke="%s" '
-            'stroke-width="11.5"/><path d="%s" stroke="%s" stroke-width="5.6"/></g>'
-            % (direction, path, inside, path, main))
+def to_neighbour(direction, main):
+    """An arrow from the middle exercise to the one above (-1) or below (1). The order runs from
+    top to bottom, as in the list of exercises, and so misleads no reader of either direction."""
+    return ('<g transform="scale(1 %s)" fill="none" stroke="%s" stroke-width="4.8">'
+            '<path d="M16 0H19A10 10 0 0 1 19 20H16.5"/><path d="M22 13.5L15 20L22 26.5"/></g>'
+            % (direction, main))
 
 
 def following(main, second, inside):
-    return steps(main, second, 5) + '<g transform="translate(0 7)">%s</g>' % arrow(-1, main, inside)
+    return exercises(main, second, inside, 3) + to_neighbour(1, main)
 
 
 def previous(main, second, inside):
-    return steps(main, second, 1) + '<g transform="translate(0 -5)">%s</g>' % arrow(1, main, inside)
+    return exercises(main, second, inside, 1) + to_neighbour(-1, main)
 
 
 def repeat(main, second, inside):
@@ -121,16 +125,10 @@ def rest(main, second, inside):
 
 
 def resume(main, second, inside):
-    """A hand that comes down to the keys."""
-    hand = ('<path d="M-11.4 -12V-4.6M-3.8 -12V-.4M3.8 -12V-.4M11.4 -12V-4.6" fill="none" '
-            'stroke="%s" stroke-width="5.6"/>'
-            '<path d="M-6 -26.5H6C7 -21 11.4 -19 11.4 -12H-11.4C-11.4 -19 -7 -21 -6 -26.5Z" '
-            'fill="%s" stroke="%s" stroke-width="5.6"/>'
-            '<path d="M10 -19L18.6 -10" stroke="%s" stroke-width="5.6"/>' % ((main,) * 4))
-    falls = "".join('<path d="M%s -24V-11M%s -16.5L%s -10.5L%s -16.5" fill="none" stroke="%s" '
-                    'stroke-width="3.4"/>' % (x, x - 5.5, x, x + 5.5, second)
-                    for x in (-25, 27))
-    return keys(7, main, inside) + hand + falls
+    """The sign of playing on, the counterpart of the pause on the glass, over the keys."""
+    return ('<circle cy="-12" r="17" fill="%s"/>'
+            '<path d="M-4.2 -19.2L7.8 -12L-4.2 -4.8Z" fill="%s" stroke="%s" stroke-width="3"/>%s'
+            % (main, inside, inside, keys(8.5, main, inside)))
 
 
 def picture_buttons():
