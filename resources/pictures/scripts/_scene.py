@@ -205,7 +205,7 @@ def clock(x, y, radius, minutes, colour=AMBER):
     """A clock whose first minutes are coloured."""
     end = -90 + minutes * 6
     hand = arc(x, y, radius * 0.68, end, end)[0]
-    out = [disc(x, y, radius, WHITE, INK), path(sector(x, y, radius - 2, -90, end), colour),
+    out = [disc(x, y, radius, WHITE, INK), path(sector(x, y, radius, -90, end), colour),
            disc(x, y, radius, "none", INK)]
     for k in range(12 if radius > 15 else 4):
         a, b = (arc(x, y, radius * r, k * (30 if radius > 15 else 90), 0, 1)[0]
