@@ -1,4 +1,4 @@
-// English lesson 7: comma, full stop, colon, and capitals with the Shift key.
+// English lesson 7: comma, period, colon, and capitals with the Shift key.
 #include "course/texts/LessonTexts.h"
 
 namespace keyfluent::course
@@ -28,7 +28,7 @@ constexpr Row exercise2[] = {
 constexpr Row exercise3[] = {
     u"to be, or not to be, that is the comma at work. ڑ",
     u"one blank comes after a comma or colon; ڑ",
-    u"two blanks come after a full stop. ڑ",
+    u"two blanks come after a period here. ڑ",
     u"no blank ever comes before a comma.",
 };
 
@@ -36,7 +36,7 @@ constexpr Row exercise4[] = {
     u"Africa.  America.  September.  Sunday. ڑ",
     u"Europe.  Asia.  October.  Friday. ڑ",
     u"Cairo, Lisbon, Quebec, and Zurich. ڑ",
-    u"Kenya, Japan, Norway, and Uganda. ڑ",
+    u"Kenya, Zambia, Norway, and Uganda. ڑ",
     u"Lake Victoria; the Nile; Mount Everest. ڑ",
     u"The Purple Penguin Paper Company. ڑ",
     u"Jolly Yak Wool and Yarn House. ڑ",
@@ -55,7 +55,7 @@ constexpr Row exercise5[] = {
     u"Bones carry us; muscles move us. ڑ",
     u"The skin is our largest organ. ڑ",
     u"A baby has more bones than you. ڑ",
-    u"Blood feeds the whole body. ڑ",
+    u"Veins lead blood back to the heart. ڑ",
     u"The ear also keeps us upright. ڑ",
     u"Tooth enamel is harder than bone. ڑ",
     u"The eye can tell countless colors. ڑ",

@@ -24,7 +24,7 @@ constexpr Row exercise2[] = {
     u"Don't you see it?  It's over there. ڑ",
     u"Does Lazy Whale Travel sell maps? ڑ",
     u"They'll have one, won't they? ڑ",
-    u"When does the Malta ferry leave? ڑ",
+    u"When does the Vienna train leave? ڑ",
     u"Whose hat is that?  Isn't it ours? ڑ",
     u"a) Knock.  b) Wait.  c) Say hello.",
 };

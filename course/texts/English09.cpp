@@ -17,7 +17,7 @@ constexpr Row exercise1[] = {
     u"Is the name right?  Is it polite? ڑ",
     u"Don't write a joke that may hurt. ڑ",
     u"Say please: it doesn't cost a cent. ڑ",
-    u"Keep to one subject; be brief. ڑ",
+    u"Use one subject only; be brief. ڑ",
     u"A letter has three parts: a greeting, the message itself, ",
     u"and a close. ڑ",
     u"Grandfather's rule holds: think first. ڑ",

@@ -47,11 +47,11 @@ constexpr Row exercise4[] = {
     u"Sleepy Owl Books, 14 Yawning Road ڑ",
     u"30527 Upper Pillow, Box 89 ڑ",
     u"Dizzy Dolphin Bakery, 268 Cinnamon Bun Lane ڑ",
-    u"41683 Lower Puddle, Floor 3 ڑ",
+    u"41683 Lower Puddle, Unit 3 ڑ",
     u"Seven Snails Express, 9 Late Letter Square ڑ",
     u"60158 Slow Harbor, Dock 34 ڑ",
     u"Left Boot Shoe Company, 127 Zigzag Alley ڑ",
-    u"85940 Far Corner, Gate 6, Ring Twice",
+    u"85940 Far Corner, Gate X6, Ring Twice",
 };
 // clang-format on
 

@@ -32,7 +32,7 @@ constexpr Row exercise2[] = {
     u"All gas lamps flash as a flag falls. ڑ",
     u"Can ten men move a bronze box? ڑ",
     u"Combine cinnamon and vanilla. ڑ",
-    u"A zinc box came back by van. ڑ",
+    u"Zinc boxes came back by van. ڑ",
     u"Know each row from top to bottom. ڑ",
     u"Your hands return to the guide row.",
 };

@@ -12,7 +12,7 @@ constexpr Row exercise1[] = {
     u"In July, I hope, you'll join us in Oslo. ڑ",
     u"Kyoto, Japan, is lovely in June, no? ڑ",
     u"Pink lilies bloom on a hill in Lyon. ڑ",
-    u"Honolulu is hilly; so is Lima, Peru. ڑ",
+    u"Unlike Hull, Honolulu is hilly. ڑ",
     u"Oh, look: a million minnows in my pool! ڑ",
     u"You spill the milk; Mom mops it up.",
 };
@@ -27,11 +27,11 @@ constexpr Row exercise2[] = {
     u"We traded dates at a Qatar bazaar. ڑ",
     u"Rain saved red beets across Texas. ڑ",
     u"Jovial foxes quickly zip by the damp red wagon. ڑ",
-    u"We quickly judged six vibrant maps of frozen hills. ڑ",
+    u"Victor quickly judged six maps of frozen white bays. ڑ",
     u"Quartz jewelry is packed in five gold boxes for him. ڑ",
     u"Why did the quiet ox jump over frozen blocks of sage? ڑ",
     u"The free hand holds the Shift key. ڑ",
-    u"Even the last key is a light touch.",
+    u"Even Shift and X need a light touch.",
 };
 // clang-format on
 

@@ -30,7 +30,7 @@ constexpr Row exercise2[] = {
     u"Spell a word; feel each finger move. ڑ",
     u"Hear the light tap of every key. ڑ",
     u"Begin with words you use each day. ڑ",
-    u"Then try long ones: neighborhood. ڑ",
+    u"Use long ones next: neighborhood. ڑ",
     u"Musicians do this on long trips. ڑ",
     u"Swimmers do it beside the pool. ڑ",
     u"The mind never tires the fingers. ڑ",
