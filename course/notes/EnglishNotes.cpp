@@ -217,7 +217,7 @@ const ExerciseNoteTable englishExerciseNotes = {{
         u"keys.",
 
         u"B and V belong to the left index finger and are easily mixed up: V lies nearer, B "
-        u"farther toward the middle.\r"
+        u"farther toward the middle. Later Z (left little finger, down from A) joins them.\r"
         u"A speed bonus applies here. The surest way to it is a line without a single error.\r"
         u"Keep the thumb close to the space bar.",
 
@@ -315,8 +315,8 @@ const ExerciseNoteTable englishExerciseNotes = {{
         u"A review with dashes, questions and exclamations, in lines that read like talk.\r"
         u"The speed bonus applies, on a standard mark of 200, and the counter and the clock are "
         u"shown.\r"
-        u"A dash has a space on each side of it within a sentence; a hyphen has none. Type both "
-        u"with the same key and the same calm.",
+        u"The dash that opens a line has a space after it; a hyphen inside a word has none. Type "
+        u"both with the same key and the same calm.",
 
         u"New: the opening parenthesis on the 9 key (right ring finger, with the left little "
         u"finger on Shift).\r"
@@ -384,13 +384,13 @@ const ExerciseNoteTable englishExerciseNotes = {{
     }},
     // Lesson 13: Shift key
     {{
-        u"Capitals again: Shift is always held by the hand that does not strike.\r"
+        u"Capitals of the right hand: Shift is always held by the hand that does not strike.\r"
         u"Rows with errors are wiped at their end and typed again; each Backspace costs five "
         u"errors.\r"
         u"A speed bonus applies to a standard mark of 300. The drawn hands are your choice. "
         u"Think of Shift as the upbeat in music: it comes just before the note.",
 
-        u"Every letter has its turn here, small or capital.\r"
+        u"First the capitals of the left hand, then every letter has its turn.\r"
         u"The standard mark is 500, and there is a speed bonus: fewer than 100 seconds help "
         u"your mark, more than 100 harm it.\r"
         u"A faulty row is wiped and typed again; Backspace costs five errors. Loosen your jaw "
