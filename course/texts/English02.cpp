@@ -16,7 +16,7 @@ constexpr Row exercise1[] = {
     u"jelly ", u"guilty ", u"faulty ", u"sugary ",
     u"treaty ", u"artistry ", u"laughter ", u"fruity ڑ",
     u"fruit ", u"guitar ", u"hurt ", u"turtle ", u"yesterday ", u"rudely ", u"truly ", u"utter ",
-    u"future ", u"jittery ", u"useful ", u"sultry ", u"tasty ", u"usually ",
+    u"future ", u"jittery ", u"useful ", u"gusty ", u"tasty ", u"usually ",
 };
 
 constexpr Row exercise2[] = {

@@ -23,7 +23,7 @@ constexpr Row exercise2[] = {
     u"Where's the Left Boot Shoe Company? ڑ",
     u"Don't you see it?  It's over there. ڑ",
     u"Does Lazy Whale Travel sell maps? ڑ",
-    u"They'll have one, won't they? ڑ",
+    u"They'll have some, won't they? ڑ",
     u"When does the Vienna train leave? ڑ",
     u"Whose hat is that?  Isn't it ours? ڑ",
     u"a) Knock.  b) Wait.  c) Say hello.",

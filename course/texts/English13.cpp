@@ -14,7 +14,7 @@ constexpr Row exercise1[] = {
     u"Pink lilies bloom on a hill in Lyon. ڑ",
     u"Unlike Hull, Honolulu is hilly. ڑ",
     u"Oh, look: a million minnows in my pool! ڑ",
-    u"You spill the milk; Mom mops it up.",
+    u"You spill the milk; Phil mops it up.",
 };
 
 constexpr Row exercise2[] = {
