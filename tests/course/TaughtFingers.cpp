@@ -86,16 +86,16 @@ const Layout& LayoutOf(bool windows, bool isArabic)
     return !isArabic ? english : windows ? arabicWindows : arabicMacintosh;
 }
 
-// The full stop is a dot as well: it is looked for where its key is. See DotKey.
-std::optional<Key> DotKey(bool windows, bool isArabic)
+// The full stop looks like a key that gives nothing, so its key is told here.
+Key FullStopKey(bool windows, bool isArabic)
 {
-    return Key{3, 8, windows && isArabic};
+    return {3, 8, windows && isArabic};
 }
 
 std::optional<Key> KeyOf(char16_t character, bool windows, bool isArabic)
 {
     if (character == u'.') {
-        return DotKey(windows, isArabic);
+        return FullStopKey(windows, isArabic);
     }
     const Layout& layout = LayoutOf(windows, isArabic);
     for (int row = 0; row < rowCount; ++row) {
