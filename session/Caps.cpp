@@ -41,14 +41,21 @@ void ShowKeyCaps(Lesson& lesson, std::int32_t kind, bool shifted, bool clearText
 
 void ClearCaps(Lesson& lesson)
 {
-    constexpr int kept[] = {keyboard::capCapsLock, keyboard::capLeftShift, keyboard::capRightShift};
+    struct Kept {
+        int cap;
+        std::int32_t foreColour;
+        std::int32_t backColour;
+    };
     CapArray& caps = lesson.caps;
-    const auto foreColour = caps.foreColour;
-    const auto backColour = caps.backColour;
+    const auto keep = [&caps](int cap) {
+        return Kept{cap, caps.foreColour[Index(cap)], caps.backColour[Index(cap)]};
+    };
+    const Kept kept[] = {keep(keyboard::capCapsLock), keep(keyboard::capLeftShift),
+                         keep(keyboard::capRightShift)};
     caps.foreColour.fill(black);
     caps.backColour.fill(white);
-    for (const int cap : kept) {
-        Paint(caps, cap, foreColour[Index(cap)], backColour[Index(cap)]);
+    for (const Kept& look : kept) {
+        Paint(caps, look.cap, look.foreColour, look.backColour);
     }
 }
 

@@ -20,6 +20,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTimer>
 
@@ -100,6 +101,7 @@ void SetLooks()
     QPalette palette = QApplication::style()->standardPalette();
     palette.setColor(QPalette::Highlight, QColor(0x26, 0x73, 0x7A));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x6F, 0x7C, 0x84));
     QApplication::setPalette(palette);
     LoadFonts();
     QApplication::setFont(FormFont(10, false));

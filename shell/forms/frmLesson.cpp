@@ -376,11 +376,6 @@ void frmLesson::showEvent(QShowEvent* event)
     windowHandle()->installEventFilter(this);
 }
 
-bool frmLesson::event(QEvent* event)
-{
-    return Form::event(event);
-}
-
 bool frmLesson::PressField(FieldName field)
 {
     const bool answered = session::PressField(lesson_, field);
