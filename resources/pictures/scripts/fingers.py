@@ -222,7 +222,7 @@ class LaidHand:
     def coloured_fingers(self):
         """Only the coloured fingers, to stand undimmed on a hand that the keys shine through."""
         return self.placed("".join(
-            only_finger(f, self.hand + f.name, self.drawing(self.hand + "top"))
+            only_finger(f, self.hand + f.name, self.drawing(self.hand + f.name + "top"))
             for f in self.fingers if f.name in self.colours))
 
 
