@@ -21,7 +21,6 @@ import concurrent.futures
 import csv
 import os
 import re
-import shutil
 import subprocess
 import sys
 import tempfile
@@ -202,7 +201,8 @@ def main():
     remove_stale(todo, options.out)
     changed = render_all(todo)
     if "icon" in present:
-        shutil.copyfile(options.out / "svg" / "icon.svg", options.out / "icons" / "keyfluent.svg")
+        write_if_changed(options.out / "icons" / "keyfluent.svg",
+                         (options.out / "svg" / "icon.svg").read_bytes())
     write_listing(todo, options.out, changed)
 
 
