@@ -163,7 +163,7 @@ def check_box(id_, ticked, fixed):
     light, dark = ("#E1E5E7", LIGHT_GREY) if fixed else (WHITE, PALE_TEAL)
     outline = GREY if fixed else INK
     tick = ('<path d="M5.8 11.2L9.6 15L16.2 6.4" fill="none" stroke="%s" stroke-width="3" '
-            'stroke-linecap="round" stroke-linejoin="round"/>' % ("#7C878D" if fixed else TEAL)
+            'stroke-linecap="round" stroke-linejoin="round"/>' % ("#5F6B72" if fixed else TEAL)
             if ticked else "")
     shadow = "" if fixed else ('<rect x="2.6" y="2.6" width="19" height="18.4" rx="4.6" '
                                'fill="#000" fill-opacity=".16"/>')
