@@ -145,17 +145,19 @@ class View:
 MAIN_ORIGIN = (1305, 2295)
 PAD_ORIGIN = (9090, 2295)
 
+# A hand laid on the keyboard is drawn in units of its own: the keys of the typing window, with the
+# number row at the top. This is where they stand in the picture of the guide row.
+LAID_SCALE = 1.48
+LAID_ORIGIN = (250 - 184.5 * LAID_SCALE, -16)
+
 VIEWS = {
     146: View(MAIN_ORIGIN, 20.5, 24.0, 1.25, 1.25),
     147: View(PAD_ORIGIN, 18.4, 26.0, 1.70, 1.70),
-    # In the units of the laid hands. The caps are higher than they are on the screen, so that the
-    # letters stand clear of the fingertips.
-    148: View(MAIN_ORIGIN, 0.0, -24.0, 1.0, 1.3),
+    # The caps are higher than they are on the screen, so that the letters stand clear of the
+    # fingertips; the guide row stays where the hands lie.
+    148: View(MAIN_ORIGIN, LAID_ORIGIN[0], LAID_ORIGIN[1] - 24 * LAID_SCALE, LAID_SCALE,
+              1.3 * LAID_SCALE),
 }
-
-# Where the drawing of the guide row goes in its picture, and how far it is enlarged.
-GUIDE_PLACE = (250 - 184.5 * 1.48, -16)
-GUIDE_SCALE = 1.48
 
 
 # Drawing -------------------------------------------------------------------------------------
@@ -188,19 +190,20 @@ def written(text, cx, cy, size, colour, base_line=0.36, settle=0.5, rim=None):
     return under + '<path %s d="%s" fill="%s"/>' % (place, path, colour)
 
 
-def key_face(key, colour, strong):
-    """A cap in its finger's colour, full for the keys of rest; white where colour is None."""
+def key_face(key, colour, strong, enlarged=1.0):
+    """A cap in its finger's colour, full for the keys of rest; white where colour is None. Its
+    face can be found by the cap's number."""
     fill = (colour if strong else mix(colour, WHITE, 0.45)) if colour else WHITE
     edge = mix(colour, INK, 0.45) if colour else GREY
-    line = 2.0 if strong else 1.2
+    line = (2.0 if strong else 1.2) * enlarged
     half = line / 2
-    return ('<rect x="%s" y="%s" width="%s" height="%s" rx="5.5" fill="#000" '
-            'fill-opacity=".16"/>'
-            '<rect x="%s" y="%s" width="%s" height="%s" rx="5" fill="%s" stroke="%s" '
+    return ('<rect x="%s" y="%s" width="%s" height="%s" rx="%s" fill="#000" fill-opacity=".16"/>'
+            '<rect id="cap%d" x="%s" y="%s" width="%s" height="%s" rx="%s" fill="%s" stroke="%s" '
             'stroke-width="%s"/>'
-            % (number(key.x + 0.6), number(key.y + 2), number(key.width), number(key.height),
-               number(key.x + half), number(key.y + half), number(key.width - line),
-               number(key.height - line), fill, edge, line))
+            % (number(key.x + 0.6 * enlarged), number(key.y + 2 * enlarged), number(key.width),
+               number(key.height), number(5.5 * enlarged), key.cap, number(key.x + half),
+               number(key.y + half), number(key.width - line), number(key.height - line),
+               number(5 * enlarged), fill, edge, number(line)))
 
 
 def ink_on(colour, strong):
@@ -314,8 +317,8 @@ def laid_hand(hand, guide, keys):
     aims, used = {}, {}
     for cap, (side, finger) in guide.items():
         if side == hand:
-            x, y = keys[cap].centre()
-            aims[finger] = (x, y + keys[cap].height * 0.36)
+            point = (keys[cap].centre()[0], keys[cap].y + keys[cap].height * 0.86)
+            aims[finger] = tuple((p - o) / LAID_SCALE for p, o in zip(point, LAID_ORIGIN))
             used[finger] = FINGER_COLOURS[finger]
     if hand == "right":
         used["thumb"] = FINGER_COLOURS["thumb"]
@@ -323,22 +326,21 @@ def laid_hand(hand, guide, keys):
 
 
 def guide_row(tables):
-    """Drawn in the units of the laid hands and then enlarged."""
     guide, told = guide_caps(tables), strikers(tables)
     keys = {cap: VIEWS[148].key(tables, cap) for cap in MAIN_BLOCK}
-    body = [plate_of(keys.values(), 8)]
+    body = [plate_of(keys.values(), 12)]
     for cap, key in keys.items():
         colour = FINGER_COLOURS[told[cap][1]] if cap in guide or cap == SPACE else None
-        body.append(key_face(key, colour, cap in guide))
+        body.append(key_face(key, colour, cap in guide, LAID_SCALE))
         if cap in guide:
-            body.append(written(tables["caps"][cap]["arabic"], key.centre()[0], key.y + 10, 14.5,
-                                WHITE, base_line=0.18, settle=0.7,
-                                rim=mix(colour, INK, 0.6)))
+            body.append(written(tables["caps"][cap]["arabic"], key.centre()[0],
+                                key.y + key.height * 0.32, 21.5, WHITE, base_line=0.18,
+                                settle=0.7, rim=mix(colour, INK, 0.6)))
+    body.append('<g transform="translate(%s %s) scale(%s)">' % (*LAID_ORIGIN, LAID_SCALE))
     for hand in ("left", "right"):
         laid = laid_hand(hand, guide, keys)
         body += [laid.whole(0.85), laid.coloured_fingers()]
-    return framed(500, 270, '<g transform="translate(%s %s) scale(%s)">%s</g>'
-                  % (*GUIDE_PLACE, GUIDE_SCALE, "".join(body)))
+    return framed(500, 270, "".join(body) + "</g>")
 
 
 CHARTS = {146: whole_keyboard, 147: numeric_pad, 148: guide_row}
