@@ -329,6 +329,7 @@ void ReserveTexts(Lesson& lesson)
     lesson.txtTest.Reserve(std::max<std::size_t>(3 * row, 400));
     lesson.txtOrigin.Reserve(lesson.context.freeText ? 31000 : 400);
     lesson.savedTestText.reserve(400);
+    lesson.label7.caption.reserve(64);
     lesson.text1.reserve(16);
     lesson.litChar.reserve(8);
 }
