@@ -128,6 +128,11 @@ JsonObject& JsonObject::Add(std::string_view key, const std::u16string& text)
     return AddRaw(key, Quoted(text));
 }
 
+JsonObject& JsonObject::Add(std::string_view key, const char16_t* text)
+{
+    return AddRaw(key, Quoted(text));
+}
+
 JsonObject& JsonObject::Add(std::string_view key, std::int64_t number)
 {
     return AddRaw(key, std::to_string(number));

@@ -24,6 +24,8 @@ class JsonObject
 public:
     JsonObject& Add(std::string_view key, std::u16string_view text);
     JsonObject& Add(std::string_view key, const std::u16string& text);
+    // A literal would otherwise be taken for a truth value.
+    JsonObject& Add(std::string_view key, const char16_t* text);
     JsonObject& Add(std::string_view key, std::int64_t number);
     JsonObject& Add(std::string_view key, int number);
     JsonObject& Add(std::string_view key, bool value);
