@@ -230,6 +230,10 @@ class Pointer:
         self.press()
         self.release()
 
+    def turn_wheel_up(self):
+        self._send(X.ButtonPress, 4)
+        self._send(X.ButtonRelease, 4)
+
     def _send(self, event, detail, x=0, y=0):
         xtest.fake_input(self._display, event, detail, x=x, y=y)
         self._display.sync()
