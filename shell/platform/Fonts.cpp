@@ -1,23 +1,37 @@
 #include "shell/platform/Fonts.h"
 
+#include <QDir>
 #include <QFontDatabase>
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
 
+static void InitialiseFontResource()
+{
+    Q_INIT_RESOURCE(fonts);
+}
+
 namespace keyfluent::shell
 {
 namespace
 {
 
+constexpr double pixelsPerPoint = 96.0 / 72.0;
+
+// The preferences file may hold any number; a size beyond the smallest screen shows nothing more.
+constexpr double smallestSize = 1; // pixels
+constexpr double largestSize = 600;
+
 QFont Face(const QStringList& families, double points, bool bold)
 {
-    constexpr double pixelsPerPoint = 96.0 / 72.0;
     QFont font;
     font.setFamilies(families);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * pixelsPerPoint))));
+    font.setPixelSize(static_cast<int>(
+        std::lround(std::clamp(points * pixelsPerPoint, smallestSize, largestSize))));
     font.setBold(bold);
+    // Letters as wide as they are drawn by their designers, whatever the desktop's settings.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;
 }
 
@@ -25,10 +39,10 @@ QFont Face(const QStringList& families, double points, bool bold)
 
 void LoadFonts()
 {
-    for (const char* file :
-         {"NotoNaskhArabic-Regular.ttf", "NotoNaskhArabic-Bold.ttf", "DejaVuSansCondensed.ttf",
-          "DejaVuSansCondensed-Bold.ttf", "Amiri-Regular.ttf", "Amiri-Bold.ttf"}) {
-        QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/") + QLatin1String(file));
+    InitialiseFontResource();
+    const QDir folder(QStringLiteral(":/fonts"));
+    for (const QString& file : folder.entryList(QDir::Files, QDir::Name)) {
+        QFontDatabase::addApplicationFont(folder.filePath(file));
     }
 }
 
