@@ -25,7 +25,7 @@ file(CONFIGURE OUTPUT ${FONTS_QRC} CONTENT
 @FONT_QRC_LINES@</qresource></RCC>
 " @ONLY)
 
-qt_add_resources(FONT_SOURCES ${FONTS_QRC} OPTIONS --no-compress)
+qt_add_big_resources(FONT_SOURCES ${FONTS_QRC} OPTIONS --no-compress)
 add_library(keyfluent_fonts STATIC ${FONT_SOURCES})
-target_compile_options(keyfluent_fonts PRIVATE -w)
+set_target_properties(keyfluent_fonts PROPERTIES LINKER_LANGUAGE CXX)
 target_link_libraries(keyfluent_fonts PUBLIC Qt6::Core)
