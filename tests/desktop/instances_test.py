@@ -1,5 +1,5 @@
 """One KeyFluent at a time: a second one shows its pictures and is refused then."""
-from harness import case
+from harness import case, keys
 from harness.program import Folder
 
 
@@ -14,10 +14,13 @@ class Instances(case.DesktopTest):
                            message="لا تستطيع تشغيل اكثر من نسخة من برنامج كي فلونت 1,0.")
 
     def check_refusal(self, arabic, message):
-        first = self.start_to_name() and self.program
+        self.start_to_name()
+        first = self.program
         folder = Folder(self.machine, arabic=arabic)
         before = self.contents(folder)
         second = self.start(folder)
+        second.wait_for_window(lambda window: case.showing(window, "graphic"),
+                               "the second one's opening picture")
         second.wait_for_window(lambda window: case.showing(window, "graphic", "KeyFluent"),
                                "the second one's splash")
         refusal = second.wait_for_window(lambda window: case.showing(window, "label", message),
@@ -29,7 +32,7 @@ class Instances(case.DesktopTest):
         self.assertEqual(self.contents(folder), before)
 
         self.assertTrue(first.runs())
-        self.give_name("Layla", case.keys.ENGLISH)
+        self.give_name("Layla", keys.ENGLISH)
         self.pass_greeting()
 
     @staticmethod

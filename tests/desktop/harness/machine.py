@@ -13,12 +13,16 @@ import tempfile
 import zlib
 
 from Xlib import X, display
+from Xlib.error import ConnectionClosedError
 from Xlib.ext import xtest
 
 from harness.waiting import wait_until
 
 SCREEN = (1280, 1024)
 _ISOLATED = "KEYFLUENT_TEST_ISOLATED"
+_OWN_SOCKETS = """
+mkdir -p -m 1777 /tmp/.X11-unix && mount -t tmpfs -o mode=1777 none /tmp/.X11-unix && exec "$@"
+"""
 _DIE_WITH_PARENT = 1  # PR_SET_PDEATHSIG
 
 # No key of the window manager's own: every key belongs to the program.
@@ -32,22 +36,31 @@ _WINDOW_MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 
 def isolate():
     """Starts this script again with a network and mounts of its own where the system allows it, so
-    that a KeyFluent that runs on the machine already does not refuse the one under test, and small
-    disks can be made. The program holds its one instance by a name in the network's namespace."""
+    that a KeyFluent that runs on the machine already does not refuse the one under test (it holds
+    its one instance by a name in the network), and small disks can be made. The virtual screens'
+    sockets are kept apart too: servers that do not see each other would choose the same number."""
     if _ISOLATED in os.environ:
         return
-    options = ["--net", "--mount"]
+    command = ["unshare", "--net", "--mount"]
     if os.geteuid() != 0:
-        options = ["--user", "--map-current-user", *options]
-    tool = shutil.which("unshare")
-    allowed = tool and subprocess.run([tool, *options, "true"], capture_output=True).returncode == 0
+        command += ["--user", "--map-root-user"]
+    command += ["sh", "-c", _OWN_SOCKETS, "sh"]
+    try:
+        allowed = subprocess.run([*command, "true"], capture_output=True).returncode == 0
+    except FileNotFoundError:
+        allowed = False
     os.environ[_ISOLATED] = "yes" if allowed else "no"
     if allowed:
-        os.execv(tool, [tool, *options, sys.executable, "-B", *sys.argv])
+        os.execvp(command[0], [*command, sys.executable, "-B", *sys.argv])
 
 
 def is_isolated():
     return os.environ.get(_ISOLATED) == "yes"
+
+
+def forget_isolation(environment):
+    """A script started with this environment isolates itself anew."""
+    environment.pop(_ISOLATED, None)
 
 
 def _end_with_parent():
@@ -72,9 +85,7 @@ class Machine:
         return self
 
     def stop(self):
-        if self.display is not None:
-            self.display.close()
-            self.display = None
+        self._close_display()
         for group in self._groups:
             try:
                 os.killpg(group, signal.SIGKILL)
@@ -87,6 +98,14 @@ class Machine:
         self._processes.clear()
         self._groups.clear()
         shutil.rmtree(self.scratch, ignore_errors=True)
+
+    def _close_display(self):
+        if self.display is not None:
+            try:
+                self.display.close()
+            except ConnectionClosedError:
+                pass  # the screen is gone already
+            self.display = None
 
     def run(self, arguments, **options):
         """Starts a process of this machine that ends with the test at the latest."""

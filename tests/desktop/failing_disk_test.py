@@ -1,0 +1,95 @@
+"""A disk that fails when the results are saved: one clear report that names the file, exit status 1,
+and no other student's file is touched."""
+import resource
+import subprocess
+
+from harness import case, machine
+from harness.files import StudentFile
+
+OTHER = StudentFile(reached_windows=7).set_mark(3, 2, True, 88).bytes()
+OLD = StudentFile(reached_windows=2).set_mark(1, 1, False, 90).bytes()
+
+
+class FailingDisk(case.DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.folder.put_student("Other", OTHER)
+        self.preferences = self.folder.preferences.read_bytes()
+        self.file = self.folder.student("Layla")
+
+    def save_and_expect_report(self):
+        """Leaves with Yes; what comes is a report, and nothing else but the end."""
+        self.choose_from_menu("File", "Quit")
+        self.click_button("yes")
+        def is_report(window):
+            return any(str(self.file) in node.name for node in case.showing(window, "label"))
+        report = self.program.wait_for_window(is_report, "a report that names the file")
+        self.click(next(node for node in report.all() if node.role == "push button"))
+        self.assertEqual(self.program.wait_for_end(), 1)
+        told = [line for line in self.program.said.splitlines() if line.startswith("KeyFluent:")]
+        self.assertEqual(len(told), 1, self.program.said)
+        self.assertIn(str(self.file), told[0])
+        self.assertEqual(self.folder.student("Other").read_bytes(), OTHER)
+        self.assertEqual(self.folder.preferences.read_bytes(), self.preferences)
+
+    def mount(self, *arguments):
+        """Mounts on the students' folder until the test is over, in the test's own view of the
+        machine. Answers whether it may."""
+        command = ["mount", *arguments, str(self.folder.students)]
+        allowed = (machine.is_isolated() and
+                   subprocess.run(command, capture_output=True).returncode == 0)
+        if allowed:
+            self.addCleanup(subprocess.run, ["umount", "--lazy", command[-1]], check=True)
+        return allowed
+
+    def test_full_disk(self):
+        """On a small disk of its own where one can be made, else on the device that is always full."""
+        small_disk = self.mount("-t", "tmpfs", "-o", "size=64k", "none")
+        if small_disk:
+            self.folder.put_student("Other", OTHER)
+        self.sign_in("Layla")
+        if small_disk:
+            self.fill_disk()
+        else:
+            self.file.symlink_to("/dev/full")
+        self.save_and_expect_report()
+
+    def fill_disk(self):
+        with open(self.folder.students / "filling", "wb", buffering=0) as filling:
+            try:
+                while True:
+                    filling.write(bytes(4096))
+            except OSError:
+                pass
+
+    def test_full_device(self):
+        self.sign_in("Layla")
+        self.file.symlink_to("/dev/full")
+        self.save_and_expect_report()
+
+    def test_failure_half_way(self):
+        """The records before the failure are written, the others stay: here both are the same."""
+        self.folder.put_student("Layla", OLD)
+        self.sign_in("Layla")
+        resource.prlimit(self.program.process.pid, resource.RLIMIT_FSIZE, (300, 300))
+        self.save_and_expect_report()
+        self.assertEqual(self.file.read_bytes(), OLD)
+
+    def test_read_only_folder(self):
+        """A real one where it can be made; a superuser may write into one that only says so."""
+        self.sign_in("Layla")
+        students = str(self.folder.students)
+        if self.mount("--bind", students):
+            subprocess.run(["mount", "-o", "remount,ro,bind", students], check=True)
+        else:
+            self.file.mkdir()
+        self.save_and_expect_report()
+
+    def test_folder_in_the_files_place(self):
+        self.sign_in("Layla")
+        self.file.mkdir()
+        self.save_and_expect_report()
+
+
+if __name__ == "__main__":
+    case.main()
