@@ -8,7 +8,8 @@
 set -eu
 
 build_packages="g++ cmake ninja-build python3 librsvg2-bin qt6-base-dev qt6-svg-dev libx11-dev
-    libxcb1-dev fonts-noto-core fonts-hosny-amiri fonts-dejavu-core fonts-dejavu-extra
+    libxcb1-dev libpulse-dev fonts-noto-core fonts-hosny-amiri fonts-dejavu-core
+    fonts-dejavu-extra
     xvfb xauth openbox x11vnc"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev libhunspell-dev hunspell-en-us
     hunspell-ar pkg-config clang-format xdotool x11-xkb-utils x11-utils dbus-x11 at-spi2-core
