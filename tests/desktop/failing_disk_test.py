@@ -21,14 +21,7 @@ class FailingDisk(case.DesktopTest):
         """Leaves with Yes; what comes is a report, and nothing else but the end."""
         self.choose_from_menu("File", "Quit")
         self.click_button("yes")
-        def is_report(window):
-            return any(str(self.file) in node.name for node in case.showing(window, "label"))
-        report = self.program.wait_for_window(is_report, "a report that names the file")
-        self.click(next(node for node in report.all() if node.role == "push button"))
-        self.assertEqual(self.program.wait_for_end(), 1)
-        told = [line for line in self.program.said.splitlines() if line.startswith("KeyFluent:")]
-        self.assertEqual(len(told), 1, self.program.said)
-        self.assertIn(str(self.file), told[0])
+        self.expect_report(self.file)
         self.assertEqual(self.folder.student("Other").read_bytes(), OTHER)
         self.assertEqual(self.folder.preferences.read_bytes(), self.preferences)
 

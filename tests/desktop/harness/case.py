@@ -187,6 +187,17 @@ class DesktopTest(unittest.TestCase):
         self.click(self.control(farewell, "push button"))
         self.assertEqual(self.program.wait_for_end(), 0, self.program.said)
 
+    def expect_report(self, file):
+        """One report that names the file, and the end of the program with status 1."""
+        def is_report(window):
+            return any(str(file) in node.name for node in showing(window, "label"))
+        report = self.program.wait_for_window(is_report, f"a report that names {file}")
+        self.click(next(node for node in report.all() if node.role == "push button"))
+        self.assertEqual(self.program.wait_for_end(), 1)
+        told = [line for line in self.program.said.splitlines() if line.startswith("KeyFluent:")]
+        self.assertEqual(len(told), 1, self.program.said)
+        self.assertIn(str(file), told[0])
+
     # Exercises.
 
     def choose_lesson(self, lesson):

@@ -47,3 +47,8 @@ def preferences(arabic=False, keyboard=WINDOWS, font_size=14, right_colour=0, wr
                 coloured_hands=True):
     return struct.pack("<hiiiihh255s255s", -arabic, keyboard, font_size, right_colour, wrong_colour,
                        -coloured_hands, 0, b"", b"")
+
+
+def cut(data, length):
+    """The first bytes, and others behind them where there are not enough."""
+    return data[:length] + b"\x5a" * max(length - len(data), 0)

@@ -37,15 +37,15 @@ class Program:
     def __init__(self, machine, eyes, folder):
         self.folder = folder
         self._eyes = eyes
-        self._log = folder.path.with_suffix(".log")
-        with open(self._log, "ab") as log:
-            self.process = machine.run([str(folder.program)], cwd=machine.scratch, stdout=log,
-                                       stderr=log)
+        log, self._log = tempfile.mkstemp(prefix="said-", dir=machine.scratch)
+        self.process = machine.run([str(folder.program)], cwd=machine.scratch, stdout=log,
+                                   stderr=log)
+        os.close(log)
         self._node = None
 
     @property
     def said(self):
-        return self._log.read_text(errors="replace")
+        return pathlib.Path(self._log).read_text(errors="replace")
 
     def runs(self):
         return self.process.poll() is None
