@@ -11,10 +11,12 @@ check:
     #! stderr TEXT         the one line on standard error, in full
     #! file NAME : HEX...  a file below the folder before the console starts
     #! folder NAME         a folder below the folder
+    #! link NAME : TARGET  a link, for a file that can't be written (TARGET /dev/full)
     #! after NAME : HEX... a file's content after the console has ended
     #! missing NAME        a file that must not be there afterwards
 
-HEX may be divided by blanks; `00*20` stands for twenty such bytes. With --write the answers are
+HEX may be divided by blanks; `00*20` stands for twenty such bytes, `00*0` for an empty file. On
+standard error the program's folder is left out of the names of files. With --write the answers are
 written as the new expectation, to be read before they are kept.
 """
 import pathlib
@@ -39,6 +41,7 @@ class Transcript:
         self.stderr = ""
         self.files = {}
         self.folders = []
+        self.links = {}
         self.after = {}
         self.missing = []
         for line in self.script.splitlines():
@@ -55,6 +58,9 @@ class Transcript:
             self.folders.append(rest)
         elif word == "missing":
             self.missing.append(rest)
+        elif word == "link":
+            name, _, target = rest.partition(" : ")
+            self.links[name] = target
         elif word in ("file", "after"):
             name, _, words = rest.partition(" : ")
             target = self.files if word == "file" else self.after
@@ -62,12 +68,18 @@ class Transcript:
         else:
             raise SystemExit(f"{self.path}: unknown directive {word}")
 
-    def run(self, console, folder):
+    def prepare(self, folder):
         for name in self.folders:
             (folder / name).mkdir(parents=True)
-        for name, data in self.files.items():
+        for name in [*self.files, *self.links]:
             (folder / name).parent.mkdir(parents=True, exist_ok=True)
+        for name, data in self.files.items():
             (folder / name).write_bytes(data)
+        for name, target in self.links.items():
+            (folder / name).symlink_to(target)
+
+    def run(self, console, folder):
+        self.prepare(folder)
         return subprocess.run([console], cwd=folder, input=self.script.encode(),
                               capture_output=True, timeout=60)
 
@@ -76,8 +88,9 @@ class Transcript:
             yield "output differs:\n" + difference(expected, result.stdout.decode())
         if result.returncode != self.status:
             yield f"exit status {result.returncode}, not {self.status}"
-        if result.stderr.decode() != self.stderr:
-            yield f"standard error was {result.stderr.decode()!r}, not {self.stderr!r}"
+        reported = result.stderr.decode().replace(f"{folder}/", "")
+        if reported != self.stderr:
+            yield f"standard error was {reported!r}, not {self.stderr!r}"
         for name, data in self.after.items():
             path = folder / name
             if not path.is_file():
@@ -101,7 +114,7 @@ def main():
     transcript = Transcript(path)
     expected_path = path.with_suffix(".expected")
     with tempfile.TemporaryDirectory() as name:
-        folder = pathlib.Path(name)
+        folder = pathlib.Path(name).resolve()
         result = transcript.run(console, folder)
         if "--write" in sys.argv:
             expected_path.write_bytes(result.stdout)
