@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QHash>
+#include <QImageReader>
+#include <QPainter>
 #include <QString>
 
 #include <algorithm>
@@ -17,23 +19,69 @@ namespace
 
 // The files come at one, two and three times the size; very large ones may lack the last.
 constexpr int largestScale = 3;
+// The backdrop has soft slopes only, so up to this it is enlarged without being seen to blur. The
+// file of the next scale would take four times as long to decode.
+constexpr double farthestEnlarged = 1.25;
 
+// A picture is a PNG file or, where that would be slow to decode, a JPEG file. Null when there is
+// no file of the scale.
 QString FileOf(int id, int scale)
 {
     const QString suffix = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
-    return QStringLiteral(":/pictures/%1%2.png").arg(id).arg(suffix);
+    for (const char* ending : {"png", "jpg"}) {
+        QString file = QStringLiteral(":/pictures/%1%2.%3").arg(id).arg(suffix, ending);
+        if (QFile::exists(file)) {
+            return file;
+        }
+    }
+    return {};
+}
+
+const char* FormatOf(const QString& file)
+{
+    return file.endsWith(QLatin1String("png")) ? "PNG" : "JPEG";
+}
+
+[[noreturn]] void FailWithout(int id)
+{
+    throw context::FatalError("Picture " + std::to_string(id) + " is missing from the program.");
 }
 
 QPixmap Decode(int id, int wantedScale)
 {
     for (int scale = wantedScale; scale >= 1; --scale) {
+        const QString file = FileOf(id, scale);
         QPixmap picture;
-        if (QFile::exists(FileOf(id, scale)) && picture.load(FileOf(id, scale), "PNG")) {
+        if (!file.isNull() && picture.load(file, FormatOf(file))) {
             picture.setDevicePixelRatio(scale);
             return picture;
         }
     }
-    throw context::FatalError("Picture " + std::to_string(id) + " is missing from the program.");
+    FailWithout(id);
+}
+
+// The part in the middle of a picture that has the shape of the wanted size.
+QRect MiddleOf(QSize picture, QSize wanted)
+{
+    const QSize part = wanted.scaled(picture, Qt::KeepAspectRatio).expandedTo({1, 1});
+    return {QPoint((picture.width() - part.width()) / 2, (picture.height() - part.height()) / 2),
+            part};
+}
+
+// The middle of the smallest file that is sharp enough for the size; null when there is no file.
+QImage MiddleFor(int id, QSize size)
+{
+    for (int scale = 1; scale <= largestScale; ++scale) {
+        const QString file = FileOf(id, scale);
+        QImageReader reader(file, FormatOf(file));
+        const QRect middle = MiddleOf(reader.size(), size);
+        const bool sharp = middle.width() * farthestEnlarged >= size.width();
+        if (sharp || FileOf(id, scale + 1).isNull()) {
+            reader.setClipRect(middle);
+            return reader.read();
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -49,16 +97,16 @@ QPixmap LoadBitmap(int id, qreal ratio)
 
 QPixmap ScaledBackdrop(int id, QSize size)
 {
-    QPixmap picture = Decode(id, 1);
-    if (size.width() > picture.width() || size.height() > picture.height()) {
-        picture = Decode(id, 2);
+    const QImage middle = MiddleFor(id, size);
+    if (middle.isNull()) {
+        FailWithout(id);
     }
-    picture.setDevicePixelRatio(1);
-    if (size.width() > picture.width() || size.height() > picture.height()) {
-        picture = picture.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    }
-    const QSize spare = picture.size() - size;
-    return picture.copy(spare.width() / 2, spare.height() / 2, size.width(), size.height());
+    QPixmap backdrop(size);
+    QPainter painter(&backdrop);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRect(QPoint(), size), middle);
+    return backdrop;
 }
 
 } // namespace keyfluent::shell

@@ -11,8 +11,8 @@ namespace keyfluent::shell
 // ratio and kept. A number without a picture is a fault of the build and ends the program.
 QPixmap LoadBitmap(int id, qreal ratio);
 
-// A picture that covers a size, in device pixels: scaled in its own shape, with what is left over
-// cut off evenly. It is not kept.
+// A picture that covers a size, in device pixels, of at least one by one: scaled in its own shape,
+// with what is left over cut off evenly. It is not kept.
 QPixmap ScaledBackdrop(int id, QSize size);
 
 } // namespace keyfluent::shell

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFile>
 #include <QImage>
 #include <QString>
 
@@ -17,10 +18,12 @@ inline void UsePictures()
 namespace keyfluent::pictures
 {
 
+// A PNG file, or the JPEG file that stands in its place.
 inline QString PathOf(int id, int ratio)
 {
     const QString suffix = ratio == 1 ? QString() : QStringLiteral("@%1x").arg(ratio);
-    return QStringLiteral(":/pictures/%1%2.png").arg(id).arg(suffix);
+    const QString png = QStringLiteral(":/pictures/%1%2.png").arg(id).arg(suffix);
+    return QFile::exists(png) ? png : QStringLiteral(":/pictures/%1%2.jpg").arg(id).arg(suffix);
 }
 
 // Null when there is no such picture.

@@ -2,7 +2,7 @@
 """How the pictures are made: what render.py refuses, that it does nothing twice, that the same
 sources always give the same pictures, and that no picture depends on the machine's fonts.
 
-usage: rendering_test.py RESOURCES_DIR RESOURCES_BUILD_DIR TABLE_DUMP_PROGRAM
+usage: rendering_test.py RESOURCES_DIR RESOURCES_BUILD_DIR TABLE_DUMP_PROGRAM TO_JPEG_PROGRAM
 """
 
 import csv
@@ -13,7 +13,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-SOURCES, BUILD, TABLE_DUMP = (Path(argument).resolve() for argument in sys.argv[1:4])
+SOURCES, BUILD, TABLE_DUMP, TO_JPEG = (Path(argument).resolve() for argument in sys.argv[1:5])
 RENDER = SOURCES / "pictures" / "render.py"
 CHARTS = SOURCES / "charts" / "charts.py"
 
@@ -111,6 +111,29 @@ class SmallSource(unittest.TestCase):
         self.assertEqual(done.returncode, 1)
         self.assertIn("2: ", done.stderr)
 
+    def test_a_picture_for_fast_decoding_is_listed_as_a_jpeg_file(self):
+        self.write("sizes.csv", "id,width,height,file\n1,8,8,png\n2,8,8,jpeg\n")
+        done = render("--strict", "--to-jpeg", TO_JPEG, self.source, self.out)
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+        listing = (self.out / "pictures.qrc").read_text(encoding="utf-8")
+        self.assertIn('alias="pictures/2.jpg"', listing)
+        self.assertIn('alias="pictures/2@2x.jpg"', listing)
+        self.assertNotIn("pictures/2.png", listing)
+        self.assertNotIn("2@3x", listing)
+        self.assertEqual((self.out / "2.jpg").read_bytes()[:3], b"\xff\xd8\xff")
+        before = self.times()
+        render("--to-jpeg", TO_JPEG, self.source, self.out)
+        self.assertEqual(self.times(), before)
+
+    def test_a_jpeg_file_cannot_be_made_without_the_program(self):
+        self.write("sizes.csv", "id,width,height,file\n1,8,8,png\n2,8,8,jpeg\n")
+        done = render(self.source, self.out)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("2: wants --to-jpeg", done.stderr)
+        done = render("--to-jpeg", "/bin/false", self.source, self.out)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("2: ", done.stderr)
+
 
 class WholeSet(unittest.TestCase):
     """The pictures of the program."""
@@ -152,7 +175,8 @@ class WholeSet(unittest.TestCase):
             self.assertEqual(run(TABLE_DUMP, tables).returncode, 0)
             done = run(sys.executable, "-B", CHARTS, tables, charts)
             self.assertEqual(done.returncode, 0, done.stderr)
-            done = render("--strict", "--also", charts, SOURCES / "pictures", out)
+            done = render("--strict", "--also", charts, "--to-jpeg", TO_JPEG,
+                          SOURCES / "pictures", out)
             self.assertEqual(done.returncode, 0, done.stderr)
             anew, built = contents(out), contents(BUILD / "pictures")
             self.assertEqual(sorted(anew), sorted(built))
