@@ -4,6 +4,7 @@ import random
 
 from harness import case, keys, screen
 from harness.files import PREFERENCES_LENGTH, cut, preferences
+from harness.visitor import showing
 
 LARGEST, SMALLEST = 2**31 - 1, -2**31
 
@@ -21,7 +22,7 @@ class BrokenPreferences(case.DesktopTest):
                 self.window_with("graphic", "KeyFluent")
                 self.keyboard.tap(keys.SPACE)
                 self.program.wait_for_window(
-                    lambda window: window.has(screen.ACTIVE) and case.showing(window, "text"),
+                    lambda window: window.has(screen.ACTIVE) and showing(window, "text"),
                     "the question for the name")
                 self.keyboard.tap(keys.ESCAPE)
                 self.assertEqual(self.program.wait_for_end(), 0)

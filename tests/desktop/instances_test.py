@@ -1,6 +1,7 @@
 """One KeyFluent at a time: a second one shows its pictures and is refused then."""
 from harness import case, keys
 from harness.program import Folder
+from harness.visitor import showing
 
 
 class Instances(case.DesktopTest):
@@ -19,11 +20,11 @@ class Instances(case.DesktopTest):
         folder = Folder(self.machine, arabic=arabic)
         before = self.contents(folder)
         second = self.start(folder)
-        second.wait_for_window(lambda window: case.showing(window, "graphic"),
+        second.wait_for_window(lambda window: showing(window, "graphic"),
                                "the second one's opening picture")
-        second.wait_for_window(lambda window: case.showing(window, "graphic", "KeyFluent"),
+        second.wait_for_window(lambda window: showing(window, "graphic", "KeyFluent"),
                                "the second one's splash")
-        refusal = second.wait_for_window(lambda window: case.showing(window, "label", message),
+        refusal = second.wait_for_window(lambda window: showing(window, "label", message),
                                          "the refusal")
         self.assertEqual(len(second.windows()), 1)
         box = next(node for node in refusal.all() if node.role == "push button")

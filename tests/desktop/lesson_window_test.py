@@ -2,6 +2,7 @@
 other windows."""
 from harness import case, keys, screen
 from harness.files import StudentFile
+from harness.visitor import centre, showing
 from harness.waiting import let_pass
 
 # How the notes begin that a first stop may show; they are Arabic whatever the language.
@@ -46,7 +47,7 @@ class LessonWindow(case.DesktopTest):
         def clock():
             return lesson.says(r"\d\d:\d\d")
         def has_button(name):
-            return case.showing(lesson.window, "push button", name)
+            return showing(lesson.window, "push button", name)
         lesson.wait(lambda: clock() >= "00:01", "the clock runs")
         self.click(self.control(lesson.window, "push button", "Break"))
         lesson.wait(lambda: has_button("Resumption"), "the pause has begun")
@@ -66,10 +67,10 @@ class LessonWindow(case.DesktopTest):
 
     def check_stop(self, lesson):
         """The exercise goes as the button goes down; nothing of it is kept."""
-        self.pointer.move(*case.centre(self.control(lesson.window, "push button", "Stop")))
+        self.pointer.move(*centre(self.control(lesson.window, "push button", "Stop")))
         self.pointer.press()
         def is_note(window):
-            labels = case.showing(window, "label")
+            labels = showing(window, "label")
             return (window.has(screen.ACTIVE) and len(labels) == 1 and
                     labels[0].name.startswith(STOP_NOTES))
         note = self.program.wait_for_window(is_note, "the note of a stop")
@@ -82,7 +83,7 @@ class LessonWindow(case.DesktopTest):
         self.arabic = True  # from the note on
         self.click_button("yes")
         farewell = self.program.wait_for_window(
-            lambda window: len(case.showing(window, "push button")) == 1, "the farewell")
+            lambda window: len(showing(window, "push button")) == 1, "the farewell")
         self.click(self.control(farewell, "push button"))
         self.assertEqual(self.program.wait_for_end(), 0)
         self.assertEqual(self.folder.student("Layla").read_bytes(), StudentFile().bytes())

@@ -2,6 +2,7 @@
 and the keys, in a text field that works as any other."""
 from harness import case, keys, screen
 from harness.files import StudentFile
+from harness.visitor import centre
 
 
 class Passage(case.DesktopTest):
@@ -58,7 +59,7 @@ class Passage(case.DesktopTest):
 
     def scroll_to(self, lesson, position):
         """Turns the wheel over the copy until a letter further up is to be seen."""
-        self.pointer.move(*case.centre(lesson.copy))
+        self.pointer.move(*centre(lesson.copy))
         def is_seen():
             _, _, width, _ = lesson.copy.place_of_letter(position)
             if not width:
