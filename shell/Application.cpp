@@ -1,6 +1,5 @@
 #include "shell/Application.h"
 
-#include "context/FatalError.h"
 #include "shell/Printing.h"
 #include "shell/Program.h"
 #include "shell/base/ImageControl.h"
@@ -12,7 +11,6 @@
 #include "shell/platform/SystemInformation.h"
 #include "shell/platform/TextConversion.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileInfo>
@@ -26,7 +24,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <functional>
 
 static void InitialiseResources()
 {
@@ -40,25 +37,6 @@ namespace
 {
 
 constexpr int failureStatus = 1;
-
-// Every failure that ends the program arrives here, from whatever event it comes.
-class Application : public QApplication
-{
-public:
-    using QApplication::QApplication;
-
-    std::function<void(const context::FatalError&)> onFailure;
-
-    bool notify(QObject* receiver, QEvent* event) override
-    {
-        try {
-            return QApplication::notify(receiver, event);
-        } catch (const context::FatalError& failure) {
-            onFailure(failure);
-            return true;
-        }
-    }
-};
 
 // The folder of the path by which the program was started: of the link where that is one, so that
 // a folder of a person's own needs to hold no more of the program than a link.
@@ -131,6 +109,28 @@ Desktop RealDesktop(Machine& machine)
 
 } // namespace
 
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const context::FatalError& failure) {
+        onFailure(failure);
+        return true;
+    }
+}
+
+void PrepareApplication()
+{
+    InitialiseResources();
+    InstallControlAccess();
+    QApplication::setApplicationName(QStringLiteral("KeyFluent"));
+    QApplication::setDesktopFileName(QStringLiteral("keyfluent"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/keyfluent-64.png")));
+    // Between two windows there is none, and the program goes on.
+    QApplication::setQuitOnLastWindowClosed(false);
+    SetLooks();
+}
+
 int RunProgram(int argc, char** argv)
 {
     // A file-size limit is a failure to report like any other, not a signal.
@@ -140,14 +140,7 @@ int RunProgram(int argc, char** argv)
     }
     const QString folder = StartFolder(argv[0]);
     Application application(argc, argv);
-    InitialiseResources();
-    InstallControlAccess();
-    QApplication::setApplicationName(QStringLiteral("KeyFluent"));
-    QApplication::setDesktopFileName(QStringLiteral("keyfluent"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/keyfluent-64.png")));
-    // Between two windows there is none, and the program goes on.
-    QApplication::setQuitOnLastWindowClosed(false);
-    SetLooks();
+    PrepareApplication();
 
     Machine machine;
     const context::Platform platform = MakePlatform(machine.capsLock, machine.sounds, folder);

@@ -10,8 +10,10 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace keyfluent::shell
@@ -22,6 +24,7 @@ namespace
 constexpr int titleRule = Pixels(405);
 constexpr int flashInterval = 100; // milliseconds
 constexpr int flashTicks = 3;
+constexpr int outOfSight = Pixels(6000); // beyond the right edge
 
 bool IsReturn(const QKeyEvent& event)
 {
@@ -56,8 +59,11 @@ context::SessionContext& Form::state()
 void Form::Exec()
 {
     CentreOnScreen();
+    // A button has the focus only when the keyboard has led to it.
+    if (focusWidget() == nullptr) {
+        setFocus();
+    }
     show();
-    raise();
     activateWindow();
     if (!unloaded_) {
         loop_.exec();
@@ -121,6 +127,7 @@ TextLabel* Form::AddTitle(std::u16string_view caption, const char* name)
     TextLabel* title =
         AddLabel(name, {margin, 1, width() - 2 * margin, titleRule - 2}, caption, 11, true);
     title->SetSide(Side::Centre);
+    setWindowTitle(title->text());
     return title;
 }
 
@@ -157,20 +164,35 @@ void Form::MoveButton(const Button& button, QPoint place)
     button.label->setGeometry(button.image->geometry());
 }
 
+int Form::EntryOf(const Button& button) const
+{
+    const auto found =
+        std::find_if(buttons_.begin(), buttons_.end(), [&button](const ButtonEntry& entry) {
+            return entry.button.image == button.image;
+        });
+    return static_cast<int>(found - buttons_.begin());
+}
+
+QPushButton* Form::AddCommand(const char* name, int entry)
+{
+    auto* command = new QPushButton(this);
+    command->setObjectName(QString::fromLatin1(name));
+    command->setFocusPolicy(Qt::NoFocus);
+    command->move(width() + outOfSight, 0);
+    command->hide();
+    connect(command, &QPushButton::clicked, this, [this, entry] { StartFlash(entry); });
+    return command;
+}
+
 void Form::FlashOnReturn(const Button& button)
 {
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        returnEntry_ =
-            buttons_[i].button.image == button.image ? static_cast<int>(i) : returnEntry_;
-    }
+    command2_ = AddCommand("Command2", EntryOf(button));
 }
 
 void Form::FlashOnEscape(const Button& button)
 {
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        escapeEntry_ =
-            buttons_[i].button.image == button.image ? static_cast<int>(i) : escapeEntry_;
-    }
+    escapeEntry_ = EntryOf(button);
+    command1_ = AddCommand("Command1", escapeEntry_);
 }
 
 void Form::LightButton(ImageControl& image)
@@ -186,11 +208,14 @@ void Form::LightButton(ImageControl& image)
 // There is no leave event: a lit button goes dark when the pointer next moves over the bare window.
 void Form::PutOutButtons()
 {
+    const bool anyLit = std::any_of(buttons_.begin(), buttons_.end(),
+                                    [](const ButtonEntry& entry) { return entry.lit; });
+    if (!anyLit) {
+        return;
+    }
     for (ButtonEntry& entry : buttons_) {
-        if (entry.lit) {
-            entry.button.image->SetBitmap(faceOut);
-            entry.lit = false;
-        }
+        entry.button.image->SetBitmap(faceOut);
+        entry.lit = false;
     }
 }
 
@@ -243,20 +268,34 @@ void Form::mouseMoveEvent(QMouseEvent*)
     PutOutButtons();
 }
 
-void Form::mousePressEvent(QMouseEvent*)
+void Form::mousePressEvent(QMouseEvent* event)
 {
-    if (closesOnPress_) {
+    down_ = event->button() == Qt::LeftButton;
+    if (closing_ == Closing::Press) {
         Unload();
     }
 }
 
+void Form::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool clicked = std::exchange(down_, false) && event->button() == Qt::LeftButton &&
+                         rect().contains(event->position().toPoint());
+    if (clicked && closing_ == Closing::Click) {
+        Unload();
+    }
+}
+
+// A key that is held down from the window before must not act here: repeats count for nothing.
 void Form::keyPressEvent(QKeyEvent* event)
 {
-    if (IsReturn(*event) && returnEntry_ >= 0) {
-        StartFlash(returnEntry_);
-    } else if (event->key() == Qt::Key_Escape && escapeEntry_ >= 0) {
-        StartFlash(escapeEntry_);
-    } else if (event->key() == Qt::Key_Space && closesOnPress_) {
+    if (event->isAutoRepeat()) {
+        return;
+    }
+    if (IsReturn(*event) && command2_ != nullptr) {
+        command2_->click();
+    } else if (event->key() == Qt::Key_Escape && command1_ != nullptr) {
+        command1_->click();
+    } else if (event->key() == Qt::Key_Space && closing_ != Closing::Buttons) {
         Unload();
     } else {
         KeyReached(*event);

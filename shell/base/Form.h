@@ -18,6 +18,8 @@
 #include <string_view>
 #include <vector>
 
+class QPushButton;
+
 namespace keyfluent::context
 {
 struct SessionContext;
@@ -66,7 +68,7 @@ protected:
     // Controls are children with their names as object names. Rectangles are in pixels.
     TextLabel* AddLabel(const char* name, const QRect& place, std::u16string_view caption,
                         double points = 10, bool bold = false);
-    // The title in the strip on top, across the window.
+    // The title in the strip on top, across the window. The desktop is told it as well.
     TextLabel* AddTitle(std::u16string_view caption, const char* name = "lblTitle");
     ImageControl* AddImage(const char* name, QPoint place, int bitmap);
 
@@ -85,8 +87,10 @@ protected:
 
     // What a close request of the desktop does: one button's handler.
     void ActOnClose(std::function<void()> handler) { onClose_ = std::move(handler); }
-    // A mouse button anywhere on the window, and Space, unload it.
-    void CloseOnPress() { closesOnPress_ = true; }
+    // A mouse button that goes down on the bare window unloads it, or a click there; Space does so
+    // too in both. Pictures and labels over it answer for themselves.
+    void CloseOnPress() { closing_ = Closing::Press; }
+    void CloseOnClick() { closing_ = Closing::Click; }
 
     // Lighting: the pointer came over a picture, or over the bare window.
     virtual void LightButton(ImageControl& image);
@@ -105,6 +109,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -115,21 +120,28 @@ private:
         bool lit = false;
     };
 
+    enum class Closing { Buttons, Press, Click };
+
     void CentreOnScreen();
+    int EntryOf(const Button& button) const;
+    QPushButton* AddCommand(const char* name, int entry);
     void StartFlash(int entry);
     void TickFlash();
 
     Program& program_;
     bool arabic_;
     bool striped_ = true;
-    bool closesOnPress_ = false;
+    Closing closing_ = Closing::Buttons;
+    bool down_ = false; // a press on the bare window has not been let go yet
     bool unloaded_ = false;
     std::vector<ButtonEntry> buttons_;
     std::function<void()> onClose_;
     Continuation continuation_;
     QEventLoop loop_;
     QTimer btnTimer_;
-    int returnEntry_ = -1;
+    // Out of sight: they stand for a button each, and only the keys press them.
+    QPushButton* command1_ = nullptr; // Escape
+    QPushButton* command2_ = nullptr; // Return
     int escapeEntry_ = -1;
     int flashing_ = -1;
     int flashCount_ = 0;

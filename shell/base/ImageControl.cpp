@@ -61,19 +61,27 @@ void ImageControl::paintEvent(QPaintEvent*)
         painter.drawPixmap(0, 0, LoadBitmap(bitmap_, devicePixelRatioF()));
     }
     if (showsFocus_) {
-        painter.setPen(QPen(QColor(0x1F, 0x3A, 0x4D), 1, Qt::DotLine));
-        painter.drawRoundedRect(rect().adjusted(2, 2, -3, -3), 4, 4);
+        PaintFocus(painter);
     }
 }
 
+// Dark dots on a light line, so that it is seen on every picture and on every colour.
+void ImageControl::PaintFocus(QPainter& painter) const
+{
+    const QRect place = rect().adjusted(3, 3, -4, -4);
+    painter.setPen(QPen(Qt::white, 1));
+    painter.drawRoundedRect(place, 4, 4);
+    painter.setPen(QPen(QColor(0x1F, 0x3A, 0x4D), 1, Qt::DotLine));
+    painter.drawRoundedRect(place, 4, 4);
+}
+
+// Another button than the left one does nothing here, and nothing to the window beneath.
 void ImageControl::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton) {
-        event->ignore();
-        return;
+    if (event->button() == Qt::LeftButton) {
+        down_ = true;
+        emit pressed();
     }
-    down_ = true;
-    emit pressed();
 }
 
 void ImageControl::mouseReleaseEvent(QMouseEvent* event)
@@ -101,16 +109,29 @@ void ImageControl::keyPressEvent(QKeyEvent* event)
 
 void ImageControl::focusInEvent(QFocusEvent* event)
 {
-    const Qt::FocusReason reason = event->reason();
-    showsFocus_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    TakeFocusReason(event->reason(), true);
     QWidget::focusInEvent(event);
-    update();
 }
 
 void ImageControl::focusOutEvent(QFocusEvent* event)
 {
-    showsFocus_ = false;
+    TakeFocusReason(event->reason(), false);
     QWidget::focusOutEvent(event);
+}
+
+// The frame shows where the keyboard has led to, and stays while another window, a menu or a list
+// is in front for a time.
+void ImageControl::TakeFocusReason(Qt::FocusReason reason, bool comes)
+{
+    switch (reason) {
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        return;
+    default:
+        break;
+    }
+    showsFocus_ = comes && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason);
     update();
 }
 

@@ -29,6 +29,9 @@ public:
     // The button that is laid over this control reads its caption here.
     void SetCaptionName(const QString& name) { setAccessibleName(name); }
 
+    // Whether the frame shows that tells where the keyboard has led to.
+    bool ShowsFocus() const { return showsFocus_; }
+
     // As a person would press it; also what Space and assistive technology do.
     void Press();
 
@@ -50,6 +53,9 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void PaintFocus(QPainter& painter) const;
+    void TakeFocusReason(Qt::FocusReason reason, bool comes);
+
     int bitmap_ = 0;
     Kind kind_ = Kind::Picture;
     bool checked_ = false;

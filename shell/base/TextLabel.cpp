@@ -2,12 +2,13 @@
 
 #include "shell/platform/TextConversion.h"
 
-#include <QFontMetricsF>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace keyfluent::shell
 {
@@ -69,12 +70,12 @@ void TextLabel::SetReading(bool arabic)
     SetSide(arabic ? Side::Right : Side::Left);
 }
 
-QTextOption TextLabel::Option() const
+QTextOption TextLabel::Option(Side side) const
 {
     QTextOption option;
     option.setTextDirection(layoutDirection());
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    switch (side_) {
+    switch (side) {
     case Side::Left:
         option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
         break;
@@ -90,7 +91,7 @@ QTextOption TextLabel::Option() const
 
 QSize TextLabel::NeededSize(int width) const
 {
-    const QSizeF size = LaidOut(text(), font(), Option(), width);
+    const QSizeF size = LaidOut(text(), font(), Option(side_), width);
     return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
 }
 
@@ -106,15 +107,66 @@ QSize TextLabel::sizeHint() const
     return NeededSize(widest);
 }
 
+void TextLabel::FitFace(const std::function<QFont(double points)>& face, double largest,
+                        double smallest)
+{
+    constexpr double step = 0.5;
+    for (double points = largest; points >= smallest; points -= step) {
+        setFont(face(points));
+        const QSize needed = NeededSize(width());
+        if (needed.width() <= width() && needed.height() <= height()) {
+            return;
+        }
+    }
+}
+
+void TextLabel::AnswerClicks()
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents, false);
+    setMouseTracking(true);
+}
+
+void TextLabel::mousePressEvent(QMouseEvent* event)
+{
+    down_ = event->button() == Qt::LeftButton;
+}
+
+void TextLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (std::exchange(down_, false) && event->button() == Qt::LeftButton &&
+        rect().contains(event->position().toPoint())) {
+        emit clicked();
+    }
+}
+
+void TextLabel::SetNumberApart(bool apart)
+{
+    numberApart_ = apart;
+    update();
+}
+
 void TextLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, foregroundRole()));
-    qreal top = std::max(0.0, (height() - NeededSize(width()).height()) / 2.0);
-    for (const QString& paragraph : text().split(u'\n')) {
+    if (!numberApart_) {
+        Paint(painter, text(), side_);
+        return;
+    }
+    const qsizetype number = text().lastIndexOf(u' ') + 1;
+    Paint(painter, text().left(number).trimmed(), side_);
+    Paint(painter, text().mid(number), side_ == Side::Right ? Side::Left : Side::Right);
+}
+
+void TextLabel::Paint(QPainter& painter, const QString& text, Side side) const
+{
+    const QTextOption option = Option(side);
+    const qreal needed = std::ceil(LaidOut(text, font(), option, width()).height());
+    qreal top = std::max(0.0, (height() - needed) / 2.0);
+    for (const QString& paragraph : text.split(u'\n')) {
         QTextLayout layout(paragraph, font());
-        layout.setTextOption(Option());
+        layout.setTextOption(option);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width());

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QTextOption>
 
+#include <functional>
 #include <string_view>
 
 namespace keyfluent::shell
@@ -31,14 +32,33 @@ public:
     // Keeps left, top and width and takes the height that the text needs; returns that height.
     int FitHeight();
     QSize sizeHint() const override;
+    // Takes the largest face, from one size down to another in points, in which the text fits the
+    // label's rectangle; the smallest if none does.
+    void FitFace(const std::function<QFont(double points)>& face, double largest, double smallest);
+
+    // The number at the end of the text stands at the other side, so that the numbers of several
+    // labels stand under one another.
+    void SetNumberApart(bool apart);
+
+    // From now on presses are the label's own. Otherwise the pointer goes through it.
+    void AnswerClicks();
+
+signals:
+    // A press of the left button that is let go over it; only after AnswerClicks.
+    void clicked();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QTextOption Option() const;
+    QTextOption Option(Side side) const;
+    void Paint(QPainter& painter, const QString& text, Side side) const;
 
     Side side_ = Side::Left;
+    bool numberApart_ = false;
+    bool down_ = false;
 };
 
 } // namespace keyfluent::shell

@@ -6,6 +6,7 @@
 #include "shell/forms/frmImage.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace keyfluent::shell
 {
@@ -13,10 +14,10 @@ namespace
 {
 
 constexpr int formWidth = 680;
-constexpr int formHeight = 452;
+constexpr int formHeight = 480;
 constexpr int columnWidth = formWidth / 2;
-constexpr int margin = 20;
-constexpr int firstRow = 150;
+constexpr int margin = 24;
+constexpr int firstRow = 154;
 constexpr int rowPitch = 42;
 
 // The three cells of a row, from the reading side on: the button and its two marks.
@@ -63,16 +64,16 @@ dlgExercise::dlgExercise(Program& program) : Form(program, "dlgExercise", {formW
     AddHeadings();
     AddColumn(English);
     AddColumn(Arabic);
-    const int bottom = firstRow + 5 * rowPitch + 4;
-    const int half = columnWidth - margin;
-    AddLabel("lblPMark", {arabic ? columnWidth : margin, bottom, half, 24}, texts.passing, 11,
-             true);
-    AddLabel("lblYourSum", {arabic ? margin : columnWidth, bottom, half, 24}, texts.sum, 11, true);
-    AddLabel("lblSpeedNote", {margin, bottom + 26, formWidth - 2 * margin, 22},
+    const int bottom = firstRow + 5 * rowPitch + 12;
+    const QRect left(margin, bottom, columnWidth - 2 * margin, 24);
+    const QRect right = left.translated(columnWidth, 0);
+    AddLabel("lblPMark", arabic ? right : left, texts.passing, 11, true);
+    AddLabel("lblYourSum", arabic ? left : right, texts.sum, 11, true);
+    AddLabel("lblSpeedNote", {margin, bottom + 27, formWidth - 2 * margin, 22},
              arabic ? u"تدل النجمة (*) على تمرين له مكافأة على سرعة الكتابة."
                     : u"The star (*) stands for an exercise give bonus on speed.",
              9);
-    AddButton("imgCansel", "lblCansel", {(formWidth - 115) / 2, bottom + 50},
+    AddButton("imgCansel", "lblCansel", {(formWidth - 115) / 2, bottom + 56},
               arabic ? u"إلغاء الأمر" : u"Cansel", [this] { Cancel(); });
 }
 
@@ -130,6 +131,21 @@ void dlgExercise::AddColumn(Column column)
         // Meant: an exercise is chosen as the button goes down.
         connect(image, &ImageControl::pressed, this, [this, column, i] { Choose(column, i); });
         connect(image, &ImageControl::hovered, this, [this, image] { LightButton(*image); });
+    }
+}
+
+// A panel behind each of the two columns.
+void dlgExercise::PaintExtra(QPainter& painter)
+{
+    constexpr int top = 96;
+    constexpr int inset = 12;
+    const QRectF panel(inset + 0.5, top + 0.5, columnWidth - 1.5 * inset,
+                       firstRow + 5 * rowPitch - top);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0x6B, 0x7F, 0x8C), 1));
+    painter.setBrush(QColor(255, 255, 255, 150));
+    for (const double left : {0.0, columnWidth - inset / 2.0}) {
+        painter.drawRoundedRect(panel.translated(left, 0), 6, 6);
     }
 }
 

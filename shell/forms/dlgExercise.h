@@ -16,6 +16,7 @@ public:
     explicit dlgExercise(Program& program);
 
 protected:
+    void PaintExtra(QPainter& painter) override;
     void LightButton(ImageControl& image) override;
     void PutOutButtons() override;
     void KeyReached(QKeyEvent& event) override;

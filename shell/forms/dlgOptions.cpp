@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr int formWidth = 720;
-constexpr int formHeight = 372;
+constexpr int formHeight = 400;
 constexpr int rule = Pixels(2710);
 constexpr int ruleMargin = Pixels(750);
 constexpr int firstAid = rule + 32;
@@ -54,7 +54,7 @@ dlgOptions::dlgOptions(Program& program)
     AddLabel("lblP", {arabic ? formWidth - 200 : 50, rule + 7, 150, 22},
              arabic ? u"اعرض:" : u"Show:", 11, true);
     AddAids();
-    const int top = formHeight - 52;
+    const int top = formHeight - 54;
     const Button ok =
         AddButton("cmdOK", "lblOK", {arabic ? formWidth / 2 + 10 : formWidth / 2 - 125, top},
                   arabic ? u"تابع" : u"Continue", [this] { Confirm(); });
@@ -78,12 +78,7 @@ void dlgOptions::AddNote()
         "lblText", place,
         course::ExerciseNote(state().lessonNo, state().exerciseNo, state().arabicExercise));
     note->SetReading(rightToLeft);
-    for (double points = largest; points >= smallest; points -= 0.5) {
-        note->setFont(FormFont(points, false));
-        if (note->NeededSize(place.width()).height() <= place.height()) {
-            break;
-        }
-    }
+    note->FitFace([](double points) { return FormFont(points, false); }, largest, smallest);
 }
 
 void dlgOptions::AddAids()

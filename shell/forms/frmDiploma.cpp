@@ -48,19 +48,22 @@ frmDiploma::frmDiploma(Program& program)
     const auto add = [this](const char* name, const QRect& place, const std::u16string& text,
                             double points, bool bold) {
         TextLabel* label = AddLabel(name, place, text, points, bold);
-        QFont font = DiplomaFont(points, bold);
-        label->setFont(font);
+        label->setFont(DiplomaFont(points, bold));
         label->SetReading(false);
         return label;
     };
     constexpr int textWidth = 600;
     constexpr int textLeft = (700 - textWidth) / 2;
-    add("lblName", {textLeft, windowTop + OnWindow(nameTop), textWidth, 34}, texts_.name, 14.5,
-        true)
-        ->SetSide(Side::Centre);
-    add("lblCourse", {textLeft, windowTop + OnWindow(courseTop), textWidth, 34}, texts_.course, 10,
-        false)
-        ->SetSide(Side::Centre);
+    const auto centred = [&](const char* name, int top, const std::u16string& text, double points,
+                             bool bold) {
+        constexpr double smallest = 4;
+        TextLabel* label =
+            add(name, {textLeft, windowTop + OnWindow(top), textWidth, 34}, text, points, bold);
+        label->SetSide(Side::Centre);
+        label->FitFace([bold](double size) { return DiplomaFont(size, bold); }, points, smallest);
+    };
+    centred("lblName", nameTop, texts_.name, 14.5, true);
+    centred("lblCourse", courseTop, texts_.course, 10, false);
     add("lblDate", {windowLeft + OnWindow(dateLeft), windowTop + OnWindow(dateTop), 200, 22},
         texts_.date, 8.75, false);
     // Meant: these two captions are Arabic in both interfaces.

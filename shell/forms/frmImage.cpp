@@ -27,7 +27,7 @@ frmImage::frmImage(Program& program) : Form(program, "frmImage", {1, 1})
     setFixedSize(picture->size() + QSize(2 * frame, 2 * frame));
     AddCaption(bitmap, *picture);
     connect(picture, &ImageControl::clicked, this, [this] { Unload(); });
-    CloseOnPress();
+    CloseOnClick();
 }
 
 // Three of the pictures carry a caption, Arabic in both interfaces.

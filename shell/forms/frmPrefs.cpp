@@ -10,11 +10,80 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
+
+#include <algorithm>
+#include <iterator>
 
 namespace keyfluent::shell
 {
+
+// A colour on show; a press picks another.
+class ColourSwatch : public ImageControl
+{
+public:
+    ColourSwatch(QWidget* parent, const QColor& colour) : ImageControl(parent), colour_(colour)
+    {
+        SetKind(Kind::Button);
+    }
+
+    const QColor& Colour() const { return colour_; }
+    void SetColour(const QColor& colour)
+    {
+        colour_ = colour;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(QColor(0x1F, 0x3A, 0x4D), 1.5));
+        painter.setBrush(colour_);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
+        painter.end();
+        ImageControl::paintEvent(event);
+    }
+
+private:
+    QColor colour_;
+};
+
 namespace
 {
+
+// Takes digits and Backspace from the keyboard, and what moves the caret or leaves the field. What
+// is pasted goes in as it is.
+class SizeField : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+
+    // No input method: it would bring letters past the keys.
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override
+    {
+        return query == Qt::ImEnabled ? QVariant(false) : QLineEdit::inputMethodQuery(query);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (Takes(*event)) {
+            QLineEdit::keyPressEvent(event);
+        }
+    }
+
+private:
+    static bool Takes(const QKeyEvent& event)
+    {
+        constexpr int leaving[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape};
+        const QString typed = event.text();
+        return typed.isEmpty() || std::ranges::find(leaving, event.key()) != std::end(leaving) ||
+               progress::SizeFieldTakes(typed.at(0).unicode()) ||
+               event.matches(QKeySequence::Paste);
+    }
+};
 
 constexpr int formWidth = 400;
 constexpr int formHeight = 372;
@@ -55,30 +124,11 @@ frmPrefs::frmPrefs(Program& program) : Form(program, "frmPrefs", {formWidth, for
                    arabic ? u"استخدم الأيدي الملونة للتوضيح." : u"Use the colored hands.",
                    shown.colouredHands);
     heading("lblColor", 158, arabic ? u"تفضيلات الألوان:" : u"Color Setting:");
-    AddSwatch(hilite_, "lblHilite", "lblTrue", 186,
-              arabic ? u"المفاتيح الصح:" : u"True Keys Color:", shown.trueKeyColour);
-    AddSwatch(warn_, "lblWarn", "lblErr", 216, arabic ? u"المفاتيح الخطأ:" : u"Err Keys Color:",
-              shown.errKeyColour);
-
-    const QRect sizeLabel = Mirrored(arabic, {margin, 262, 240, 26});
-    TextLabel* size =
-        AddLabel("lblSize", sizeLabel,
-                 arabic ? u"حجم الخط:              بكسل" : u"Size:              points", 10);
-    txtSize_ = new QLineEdit(this);
-    txtSize_->setObjectName(QStringLiteral("txtSize"));
-    txtSize_->setFont(FormFont(10, false));
-    txtSize_->setAlignment(Qt::AlignHCenter);
-    txtSize_->setText(QString::number(shown.fontSize));
-    txtSize_->setAccessibleName(size->text().simplified());
-    txtSize_->setContextMenuPolicy(Qt::DefaultContextMenu);
-    txtSize_->installEventFilter(this);
-    // The field stands over the gap in its label.
-    const QFontMetrics metrics(size->font());
-    const int before =
-        metrics.horizontalAdvance(arabic ? QStringLiteral("حجم الخط: ") : QStringLiteral("Size: "));
-    const int gap = metrics.horizontalAdvance(QStringLiteral("             "));
-    const int fieldLeft = arabic ? sizeLabel.right() - before - gap : sizeLabel.left() + before;
-    txtSize_->setGeometry(fieldLeft, 262, gap, 26);
+    lblHilite_ = AddSwatch("lblHilite", "lblTrue", 188,
+                           arabic ? u"المفاتيح الصح:" : u"True Keys Color:", shown.trueKeyColour);
+    lblWarn_ = AddSwatch("lblWarn", "lblErr", 220, arabic ? u"المفاتيح الخطأ:" : u"Err Keys Color:",
+                         shown.errKeyColour);
+    AddSizeField(266, shown.fontSize);
 
     const Button ok = AddButton("cmdOK", "lblOK", {arabic ? 205 : 80, 320},
                                 arabic ? u"موافق" : u"OK", [this] { Confirm(); });
@@ -98,9 +148,8 @@ frmPrefs::Box frmPrefs::AddBox(const char* imageName, const char* labelName, int
     box.image->SetKind(ImageControl::Kind::CheckBox);
     box.image->SetChecked(ticked);
     box.image->SetCaptionName(box.label->text());
-    // The label turns the box over too.
-    box.label->setAttribute(Qt::WA_TransparentForMouseEvents, false);
-    box.label->installEventFilter(this);
+    box.label->AnswerClicks();
+    connect(box.label, &TextLabel::clicked, box.image, &ImageControl::Press);
     connect(box.image, &ImageControl::clicked, this, [image = box.image] {
         const bool now = image->Bitmap() != boxTicked;
         image->SetBitmap(now ? boxTicked : boxEmpty);
@@ -109,59 +158,47 @@ frmPrefs::Box frmPrefs::AddBox(const char* imageName, const char* labelName, int
     return box;
 }
 
-void frmPrefs::AddSwatch(Swatch& swatch, const char* name, const char* labelName, int top,
-                         const char16_t* caption, std::int32_t colour)
+ColourSwatch* frmPrefs::AddSwatch(const char* name, const char* labelName, int top,
+                                  const char16_t* caption, std::int32_t colour)
 {
-    AddLabel(labelName, Mirrored(Arabic(), {margin + 10, top, 150, 24}), caption, 10);
-    auto* image = new ImageControl(this);
-    image->setObjectName(QString::fromLatin1(name));
-    image->setGeometry(Mirrored(Arabic(), {margin + 170, top, 60, 24}));
-    image->SetKind(ImageControl::Kind::Button);
-    image->SetCaptionName(findChild<TextLabel*>(QString::fromLatin1(labelName))->text());
-    swatch.widget = image;
-    SetColour(swatch, QColor::fromRgb(RgbOf(colour)));
-    connect(image, &ImageControl::clicked, this, [this, &swatch] { PickColour(swatch); });
-}
-
-void frmPrefs::SetColour(Swatch& swatch, const QColor& colour)
-{
-    swatch.colour = colour;
-    QPalette palette = swatch.widget->palette();
-    palette.setColor(QPalette::Window, colour);
-    swatch.widget->setPalette(palette);
-    swatch.widget->setAutoFillBackground(true);
-    swatch.widget->update();
-}
-
-void frmPrefs::PickColour(Swatch& swatch)
-{
-    const QColor picked = program().World().pickColour(swatch.colour, this);
-    if (picked.isValid()) {
-        SetColour(swatch, picked);
-    }
-}
-
-bool frmPrefs::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == txtSize_ && event->type() == QEvent::KeyPress) {
-        const QString typed = static_cast<QKeyEvent*>(event)->text();
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        const bool passes = typed.isEmpty() || key == Qt::Key_Tab || key == Qt::Key_Backtab ||
-                            key == Qt::Key_Return || key == Qt::Key_Enter ||
-                            key == Qt::Key_Escape ||
-                            progress::SizeFieldTakes(typed.at(0).unicode()) ||
-                            static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste);
-        return !passes;
-    }
-    if (event->type() == QEvent::MouseButtonRelease) {
-        for (const Box& box : {interface_, system_, hand_}) {
-            if (watched == box.label) {
-                box.image->Press();
-                return true;
-            }
+    const TextLabel* label =
+        AddLabel(labelName, Mirrored(Arabic(), {margin + 10, top, 150, 26}), caption, 10);
+    auto* swatch = new ColourSwatch(this, QColor::fromRgb(RgbOf(colour)));
+    swatch->setObjectName(QString::fromLatin1(name));
+    swatch->setGeometry(Mirrored(Arabic(), {margin + 170, top, 72, 26}));
+    swatch->SetCaptionName(label->text());
+    connect(swatch, &ImageControl::clicked, this, [this, swatch] {
+        const QColor picked = program().World().pickColour(swatch->Colour(), this);
+        if (picked.isValid()) {
+            swatch->SetColour(picked);
         }
-    }
-    return Form::eventFilter(watched, event);
+    });
+    return swatch;
+}
+
+// The field stands over the gap in its label.
+void frmPrefs::AddSizeField(int top, std::int32_t size)
+{
+    constexpr int space = 4; // on either side of the field
+    constexpr int height = 26;
+    const bool arabic = Arabic();
+    const QRect place = Mirrored(arabic, {margin, top, 240, height});
+    const TextLabel* label =
+        AddLabel("lblSize", place,
+                 arabic ? u"حجم الخط:              بكسل" : u"Size:              points", 10);
+    const QFontMetrics metrics(label->font());
+    const int before =
+        metrics.horizontalAdvance(arabic ? QStringLiteral("حجم الخط:") : QStringLiteral("Size:")) +
+        space;
+    const int width = metrics.horizontalAdvance(QString(14, u' ')) - 2 * space;
+    txtSize_ = new SizeField(this);
+    txtSize_->setObjectName(QStringLiteral("txtSize"));
+    txtSize_->setFont(FormFont(10, false));
+    txtSize_->setAlignment(Qt::AlignHCenter);
+    txtSize_->setText(QString::number(size));
+    txtSize_->setAccessibleName(label->text().simplified());
+    txtSize_->setGeometry(arabic ? place.right() + 1 - before - width : place.left() + before, top,
+                          width, height);
 }
 
 void frmPrefs::Confirm()
@@ -173,8 +210,8 @@ void frmPrefs::Confirm()
     form.keyboardKind = system_.image->Bitmap() == boxTicked ? keyboard::macintoshKeyboard
                                                              : keyboard::windowsKeyboard;
     form.size = FromQString(txtSize_->text());
-    form.trueKeyColour = ColourOf(hilite_.colour);
-    form.errKeyColour = ColourOf(warn_.colour);
+    form.trueKeyColour = ColourOf(lblHilite_->Colour());
+    form.errKeyColour = ColourOf(lblWarn_->Colour());
     form.colouredHands = hand_.image->Bitmap() == boxTicked;
     progress::SavePreferences(state(), form);
     Unload([&program = program()]() -> std::unique_ptr<Form> {

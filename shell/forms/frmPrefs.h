@@ -3,12 +3,14 @@
 
 #include "shell/base/Form.h"
 
-#include <QColor>
+#include <cstdint>
 
 class QLineEdit;
 
 namespace keyfluent::shell
 {
+
+class ColourSwatch;
 
 class frmPrefs : public Form
 {
@@ -17,34 +19,24 @@ class frmPrefs : public Form
 public:
     explicit frmPrefs(Program& program);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     struct Box {
         ImageControl* image = nullptr;
         TextLabel* label = nullptr;
     };
 
-    // A colour on show; a press picks another.
-    struct Swatch {
-        QWidget* widget = nullptr;
-        QColor colour;
-    };
-
     Box AddBox(const char* imageName, const char* labelName, int top, const char16_t* caption,
                bool ticked);
-    void AddSwatch(Swatch& swatch, const char* name, const char* labelName, int top,
-                   const char16_t* caption, std::int32_t colour);
-    void PickColour(Swatch& swatch);
-    void SetColour(Swatch& swatch, const QColor& colour);
+    ColourSwatch* AddSwatch(const char* name, const char* labelName, int top,
+                            const char16_t* caption, std::int32_t colour);
+    void AddSizeField(int top, std::int32_t size);
     void Confirm();
 
     Box interface_;
     Box system_;
     Box hand_;
-    Swatch hilite_;
-    Swatch warn_;
+    ColourSwatch* lblHilite_ = nullptr;
+    ColourSwatch* lblWarn_ = nullptr;
     QLineEdit* txtSize_ = nullptr;
 };
 

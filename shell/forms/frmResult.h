@@ -12,6 +12,9 @@ class frmResult : public Form
 
 public:
     explicit frmResult(Program& program);
+
+protected:
+    void PaintExtra(QPainter& painter) override;
 };
 
 } // namespace keyfluent::shell

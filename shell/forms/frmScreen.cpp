@@ -26,14 +26,17 @@ std::u16string Explanation(bool arabic, QSize screen)
 
 } // namespace
 
-frmScreen::frmScreen(Program& program, QSize screen) : Form(program, "frmScreen", {440, 270})
+frmScreen::frmScreen(Program& program, QSize screen) : Form(program, "frmScreen", {460, 240})
 {
     AddTitle(Arabic() ? u"وضوح الشاشة" : u"Screen Resolution");
-    AddLabel("lblText", {30, 50, 380, 140}, Explanation(Arabic(), screen));
-    AddButton("cmdThank", "lblThank", {162, 215}, Arabic() ? u"إنهاء" : u"Quit", [this, &program] {
-        Unload();
-        program.End();
-    });
+    TextLabel* text = AddLabel("lblText", {30, 50, 400, 10}, Explanation(Arabic(), screen), 11);
+    const int bottom = text->geometry().top() + text->FitHeight();
+    setFixedHeight(bottom + 76);
+    AddButton("cmdThank", "lblThank", {172, bottom + 24}, Arabic() ? u"إنهاء" : u"Quit",
+              [this, &program] {
+                  Unload();
+                  program.End();
+              });
 }
 
 } // namespace keyfluent::shell

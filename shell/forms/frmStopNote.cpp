@@ -16,6 +16,8 @@ frmStopNote::frmStopNote(Program& program, int note) : Form(program, "frmStopNot
                                course::StopNoteText(note), 12);
     text->SetReading(true);
     text->resize(text->sizeHint());
+    text->AnswerClicks();
+    connect(text, &TextLabel::clicked, this, [this] { Unload(); });
     ImageControl* icon = AddImage("imgIcon", {Pixels(140), Pixels(140)}, notePicture);
     icon->setVisible(pictured);
     connect(icon, &ImageControl::clicked, this, [this] { Unload(); });
