@@ -32,6 +32,20 @@ class Eyes:
         self.desktop = Node(self._bus, _ATSPI + "Registry", _ROOT)
         self.desktop.children()
 
+    def switch_on(self):
+        """Tells every program that assistive technology is in use; the tests' programs expect it
+        without being told."""
+        self._tell_of_use(True)
+
+    def switch_off(self):
+        self._tell_of_use(False)
+
+    def _tell_of_use(self, used):
+        self._session.call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
+            GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", used))), None,
+            Gio.DBusCallFlags.NONE, _PATIENCE, None)
+
     def program(self, process):
         """The node of a running process, or None as long as it has not told of itself."""
         for node in self.desktop.children():
