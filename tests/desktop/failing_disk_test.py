@@ -1,5 +1,6 @@
 """A disk that fails when the results are saved: one clear report that names the file, exit status 1,
 and no other student's file is touched."""
+import os
 import resource
 import subprocess
 
@@ -69,13 +70,16 @@ class FailingDisk(case.DesktopTest):
         self.assertEqual(self.file.read_bytes(), OLD)
 
     def test_read_only_folder(self):
-        """A real one where it can be made; a superuser may write into one that only says so."""
+        """Mounted so where that can be done, for a superuser writes whatever the folder's mode says."""
         self.sign_in("Layla")
-        students = str(self.folder.students)
-        if self.mount("--bind", students):
-            subprocess.run(["mount", "-o", "remount,ro,bind", students], check=True)
+        students = self.folder.students
+        if self.mount("--bind", str(students)):
+            subprocess.run(["mount", "-o", "remount,ro,bind", str(students)], check=True)
         else:
-            self.file.mkdir()
+            students.chmod(0o555)
+            self.addCleanup(students.chmod, 0o755)
+            if os.access(students, os.W_OK):
+                self.file.mkdir()
         self.save_and_expect_report()
 
     def test_folder_in_the_files_place(self):
