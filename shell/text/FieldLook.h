@@ -10,6 +10,7 @@ namespace keyfluent::shell
 inline constexpr QColor fieldPaper{0xFF, 0xFF, 0xFF};
 inline constexpr QColor fieldInk{0x00, 0x00, 0x00};
 inline constexpr QColor fieldFrame{0x9A, 0xA5, 0xAB};
+inline constexpr QColor fieldThumb{0xB4, 0xC0, 0xC5};
 inline constexpr QColor selectedPaper{0x26, 0x73, 0x7A};
 inline constexpr QColor selectedInk{0xFF, 0xFF, 0xFF};
 

@@ -11,6 +11,8 @@ namespace
 {
 
 constexpr int caretWidth = 2;
+constexpr int thumbWidth = 3;
+constexpr int leastThumbLength = 12;
 constexpr int leastPageHeight = 48; // a lower field is for one row, whatever its font
 constexpr int leastPixelSize = 8;   // of a font made smaller to fit a low field
 // A letter without a width of its own is still seen to be selected.
@@ -160,18 +162,23 @@ QRegion TextCanvas::TakeDamage()
     const QRegion selection = RegionOf(SelectionStart(), SelectionEnd());
     damage += selection.xored(shownSelection_);
     shownSelection_ = selection;
-    const QRect caret = caretShown_ ? CaretRect(caret_) : QRect();
-    if (caret != shownCaret_) {
-        damage += caret;
-        damage += shownCaret_;
-        shownCaret_ = caret;
-    }
+    AddChange(damage, shownCaret_, caretShown_ ? CaretRect(caret_) : QRect());
+    AddChange(damage, shownThumb_, ThumbRect());
     if (allDamaged_ || topLine_ != shownTopLine_) {
         damage = QRect(QPoint(0, 0), size_);
     }
     allDamaged_ = false;
     shownTopLine_ = topLine_;
     return damage;
+}
+
+void TextCanvas::AddChange(QRegion& damage, QRect& shown, const QRect& now)
+{
+    if (now != shown) {
+        damage += now;
+        damage += shown;
+        shown = now;
+    }
 }
 
 void TextCanvas::Paint(QPainter& painter, const QRegion& region)
@@ -195,9 +202,8 @@ void TextCanvas::Paint(QPainter& painter, const QRegion& region)
         PaintRows(painter, selection, selectedInk);
         painter.setClipRect(inside);
     }
-    if (!shownCaret_.isEmpty()) {
-        painter.fillRect(shownCaret_, fieldInk);
-    }
+    painter.fillRect(shownCaret_, fieldInk);
+    painter.fillRect(shownThumb_, fieldThumb);
     painter.setClipping(false);
 }
 
@@ -240,6 +246,20 @@ QRect TextCanvas::CaretRect(int position)
     const double edge = OriginX() + EdgeAt(flow_.LineAt(index), position, flow_);
     const int left = qRound(edge) - (flow_.RightToLeft() ? 0 : 1);
     return QRect(left, row.top() + 1, caretWidth, row.height() - 2) & Inside();
+}
+
+QRect TextCanvas::ThumbRect() const
+{
+    const int lines = flow_.ApproximateLineCount();
+    const int hidden = lines - rows_;
+    if (rows_ == 1 || hidden <= 0) {
+        return {};
+    }
+    const QRect track = Inside().adjusted(1, topPadding, -1, -topPadding);
+    const int length = std::max(track.height() * rows_ / lines, leastThumbLength);
+    const int above = (track.height() - length) * std::min(topLine_, hidden) / hidden;
+    const int left = flow_.RightToLeft() ? track.left() : track.right() + 1 - thumbWidth;
+    return {left, track.top() + above, thumbWidth, length};
 }
 
 QRect TextCanvas::LetterRect(int position)

@@ -77,6 +77,9 @@ public:
     int PositionAt(QPointF point);
     // Empty when it is not in view.
     QRect CaretRect(int position);
+    // A slim mark at the side where lines end, as long and as high up as the lines in view are
+    // among all lines; empty where all are in view.
+    QRect ThumbRect() const;
     // Of the letter with its marks, or of the line end, at position. Empty when not in view.
     QRect LetterRect(int position);
 
@@ -92,6 +95,7 @@ private:
     QRegion RegionOf(int from, int to);
     void AddLineRects(QRegion& region, const FlowLine& line, int from, int to) const;
     QRect CellRect(const QRect& row, double left, double right) const;
+    static void AddChange(QRegion& damage, QRect& shown, const QRect& now);
     void PaintRows(QPainter& painter, const QRegion& region, const QColor& ink);
     void PaintUnderline(QPainter& painter);
 
@@ -120,6 +124,7 @@ private:
     int shownTopLine_ = 0;
     QRegion shownSelection_;
     QRect shownCaret_;
+    QRect shownThumb_;
 };
 
 } // namespace keyfluent::shell

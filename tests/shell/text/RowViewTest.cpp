@@ -104,6 +104,30 @@ private slots:
         QCOMPARE(stage.view.Canvas().TopLine(), 0);
     }
 
+    void AThumbTellsWhereTheLinesInViewAre()
+    {
+        for (const bool rightToLeft : {false, true}) {
+            Stage stage(RowView::Keep::Selection, passageSize);
+            TextCanvas& canvas = stage.view.Canvas();
+            stage.view.Show(MakeField(Passage(rightToLeft, 3), rightToLeft));
+            QVERIFY(canvas.ThumbRect().isEmpty());
+            const std::u16string text = Passage(rightToLeft, 12);
+            stage.view.Show(MakeField(text, rightToLeft));
+            const QRect top = canvas.ThumbRect();
+            QCOMPARE(top.center().x() < 5, rightToLeft);
+            QCOMPARE(top.center().x() > passageSize.width() - 6, !rightToLeft);
+            QCOMPARE(Picture(stage.view).pixelColor(top.center()), fieldThumb);
+            stage.view.BringIntoView(static_cast<int>(text.size()));
+            const QRect bottom = canvas.ThumbRect();
+            QCOMPARE(bottom.height(), top.height());
+            QVERIFY(top.top() < 5 && bottom.bottom() > passageSize.height() - 6);
+            QVERIFY(std::abs(top.height() - 157 * canvas.Rows() / 12) < 5);
+        }
+        Stage row(RowView::Keep::End, rowSize);
+        row.view.Show(MakeField(Passage(false, 3), false));
+        QVERIFY(row.view.Canvas().ThumbRect().isEmpty());
+    }
+
     void WhatIsShownBeforeTheWindowIsSeenStandsRight()
     {
         const session::TextField field = MakeField(Passage(true, 12), true, 300, 1);
