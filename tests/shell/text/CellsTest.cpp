@@ -71,6 +71,17 @@ private slots:
         QVERIFY(Near(line.Edge(15), left));
     }
 
+    void NoTwoLatinLettersBecomeOneSign()
+    {
+        OneLine line(u"office", false);
+        for (const int at : {1, 2, 3}) {
+            OneLine alone(std::u16string(1, u"office"[at]), false);
+            const double own = alone.At(0).right - alone.At(0).left;
+            const Cell cell = line.At(at);
+            QVERIFY2(Near(cell.right - cell.left, own), Describe(cell).c_str());
+        }
+    }
+
     void JoinedArabicLettersStandSideBySideFromTheRight()
     {
         OneLine line(u"\u0643\u062A\u0628 \u0627\u0644\u062A\u0644\u0645\u064A\u0630 \u0691", true);
