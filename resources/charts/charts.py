@@ -19,8 +19,8 @@ HERE = Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "pictures" / "scripts"))
 
 import hands  # noqa: E402  (found by the line above)
-from _style import GREY, INK, LIGHT_GREY, WHITE, number  # noqa: E402
-from fingers import LaidHand, framed  # noqa: E402
+from _style import GREY, INK, LIGHT_GREY, WHITE, number, points_path  # noqa: E402
+from fingers import LaidHand, framed, rest_point, sleeve  # noqa: E402
 from hands import FINGER_COLOURS, mix  # noqa: E402
 
 TWIPS = 15  # to the pixel
@@ -219,21 +219,22 @@ def both_letters(tables, key, colour, strong):
     fill, rim = ink_on(colour, strong)
     latin = texts["englishShift"] if texts["english"].isalpha() else texts["english"]
     if texts["arabic"] == texts["english"]:
-        return written(latin, *key.centre(), key.height * 0.52, fill, rim=rim)
+        return written(latin, *key.centre(), key.height * 0.52, fill, rim=rim, settle=1.0)
     _, left, _, right, _, _ = glyph_of(texts["arabic"])
-    size = min(key.height * 0.60, key.width * 0.60 / (right - left) * 1000)
+    size = min(key.height * 0.60, key.width * 0.56 / (right - left) * 1000)
     half = (right - left) / 2 * size / 1000
-    cx = min(key.x + key.width * 0.62, key.x + key.width - 3.5 - half)
-    return (written(texts["arabic"], cx, key.y + key.height * 0.56, size, fill, base_line=0.22,
+    cx = min(key.x + key.width * 0.64, key.x + key.width - 3.0 - half)
+    return (written(texts["arabic"], cx, key.y + key.height * 0.57, size, fill, settle=1.0,
                     rim=rim)
-            + written(latin, key.x + key.width * 0.22, key.y + key.height * 0.27,
-                      key.height * 0.30, fill, settle=0.7))
+            + written(latin, key.x + key.width * 0.20, key.y + key.height * 0.27,
+                      key.height * 0.30, fill, settle=0.0))
 
 
 def named(tables, key, colour, size):
+    """A key with a name; all names stand on the base line of their row."""
     fill, _ = ink_on(colour, strong=False)
     return written(tables["caps"][key.cap]["arabic"], *key.centre(), size, fill,
-                   base_line=0.22, settle=0.4)
+                   base_line=0.30, settle=0.0)
 
 
 def plate(x, y, width, height, radius=11):
@@ -254,10 +255,31 @@ def plate_of(keys, margin):
 
 def coloured_hand(hand, used, x, y, scale):
     """A hand at rest, its left top corner at (x, y); only the fingers used have their colour."""
-    body = hands.left_hand(None, True, hand, lambda f: FINGER_COLOURS[f] if f in used else None)
-    if hand == "right":
+    right = hand == "right"
+    body = hands.left_hand(None, True, hand, lambda f: FINGER_COLOURS[f] if f in used else None,
+                           right=right, edge=1.7, sleeve=sleeve())
+    if right:
         body = hands.mirrored(body)
     return '<g transform="translate(%s %s) scale(%s)">%s</g>' % (number(x), number(y), scale, body)
+
+
+def parting(keys, told):
+    """A line between the keys of the two hands, from the number row to the space bar."""
+    rows = {}
+    for key in keys:
+        if key.cap in told and key.cap != SPACE:
+            rows.setdefault(round(key.y / 10), []).append(key)
+    points = []
+    for row in sorted(rows.values(), key=lambda row: min(k.y for k in row)):
+        left = max((k for k in row if told[k.cap][0] == "left"), key=lambda k: k.x)
+        right = min((k for k in row if told[k.cap][0] == "right"), key=lambda k: k.x)
+        x = (left.x + left.width + right.x) / 2
+        points += [(x, left.y - 0.8), (x, left.y + left.height + 0.8)]
+    points[0] = (points[0][0], points[0][1] - 6)
+    data = points_path(points)
+    return ('<path d="%s" fill="none" stroke="%s" stroke-width="3.6" stroke-linejoin="round" '
+            'stroke-linecap="round"/><path d="%s" fill="none" stroke="%s" stroke-width="1.8" '
+            'stroke-linejoin="round" stroke-linecap="round"/>' % (data, WHITE, data, INK))
 
 
 # The charts ----------------------------------------------------------------------------------
@@ -287,10 +309,11 @@ def whole_keyboard(tables):
         if len(tables["caps"][key.cap]["english"]) == 1:
             body.append(both_letters(tables, key, colour, key.cap in guide))
         else:
-            body.append(named(tables, key, colour, 13.5 if key.width > 60 else 11))
-    for hand, x in (("left", 14), ("right", 545 - 14 - 128 * 1.42)):
+            body.append(named(tables, key, colour, 12))
+    body.append(parting(keys, told))
+    for hand, x in (("left", 26), ("right", 545 - 26 - 128 * 1.3)):
         used = {finger for side, finger in told.values() if side == hand}
-        body.append(coloured_hand(hand, used, x, 196, 1.42))
+        body.append(coloured_hand(hand, used, x, 196, 1.3))
     body.append(names_of_fingers(300, 252, 31))
     return framed(545, 416, "".join(body))
 
@@ -307,22 +330,29 @@ def numeric_pad(tables):
         size = 13 if len(text) > 1 else 22
         body.append(key_face(key, colour, strong) + written(text, *key.centre(), size, fill,
                                                             rim=rim))
-    body.append(coloured_hand("right", set(PAD_FINGERS), 220 / 2 - 64 * 1.3 - 4, 238, 1.22))
+    body.append(coloured_hand("right", set(PAD_FINGERS), 220 / 2 - 64 * 1.12 - 2, 236, 1.12))
     return framed(220, 417, "".join(body))
 
 
+# How far down its guide key a fingertip lies, in shares of the key's height: low, so that the
+# letters stay in sight, and on an arc, as the fingers are not of one length.
+TIP_DOWN = {"little": 1.04, "ring": 0.89, "middle": 0.84, "index": 0.91}
+
+
 def laid_hand(hand, guide, keys):
-    """A hand whose coloured fingers lie on the lower edge of their guide keys, so that the letters
-    stay in sight; the right thumb has the space bar."""
-    aims, used = {}, {}
-    for cap, (side, finger) in guide.items():
-        if side == hand:
-            point = (keys[cap].centre()[0], keys[cap].y + keys[cap].height * 0.86)
-            aims[finger] = tuple((p - o) / LAID_SCALE for p, o in zip(point, LAID_ORIGIN))
-            used[finger] = FINGER_COLOURS[finger]
+    """A hand whose coloured fingers lie on the lower edge of their guide keys; the right thumb has
+    the space bar, and the left one rests there too."""
+    def laid(x, y):
+        return tuple((p - o) / LAID_SCALE for p, o in zip((x, y), LAID_ORIGIN))
+
+    used = {finger: FINGER_COLOURS[finger] for side, finger in guide.values() if side == hand}
+    aims = {finger: laid(keys[cap].centre()[0], keys[cap].y + keys[cap].height * TIP_DOWN[finger])
+            for cap, (side, finger) in guide.items() if side == hand}
     if hand == "right":
         used["thumb"] = FINGER_COLOURS["thumb"]
-    return LaidHand(hand, used, aims=aims)
+    x, _ = rest_point(hand, "thumb")
+    aims["thumb"] = (x, laid(0, keys[SPACE].y + keys[SPACE].height * 0.5)[1])
+    return LaidHand(hand, used, aims=aims, moved=(0.0, 13.0))
 
 
 def guide_row(tables):
@@ -334,8 +364,8 @@ def guide_row(tables):
         body.append(key_face(key, colour, cap in guide, LAID_SCALE))
         if cap in guide:
             body.append(written(tables["caps"][cap]["arabic"], key.centre()[0],
-                                key.y + key.height * 0.32, 21.5, WHITE, base_line=0.18,
-                                settle=0.7, rim=mix(colour, INK, 0.6)))
+                                key.y + key.height * 0.34, 21.5, WHITE, settle=1.0,
+                                rim=mix(colour, INK, 0.6)))
     body.append('<g transform="translate(%s %s) scale(%s)">' % (*LAID_ORIGIN, LAID_SCALE))
     for hand in ("left", "right"):
         laid = laid_hand(hand, guide, keys)

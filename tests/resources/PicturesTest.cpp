@@ -186,7 +186,7 @@ double Contrast(QRgb one, QRgb other)
 }
 
 // The colour of the finger that strikes, on a plain hand.
-constexpr QRgb markColour = 0xFFD9644A;
+constexpr QRgb markColour = 0xFFF0921E;
 
 } // namespace
 

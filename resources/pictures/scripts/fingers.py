@@ -4,7 +4,6 @@
     python3 fingers.py OUTDIR
 
 138 to 141  the keys that the index, middle, ring and little fingers reach
-142         how a key is struck and left, from the side
 143         the little finger holds Shift while the other hand strikes
 """
 
@@ -14,8 +13,7 @@ import sys
 from dataclasses import dataclass
 
 import hands
-from _style import (AMBER, CORAL, GREY, INK, LIGHT_GREY, LIGHT_TEAL, PALE_TEAL, PAPER, TEAL, WHITE,
-                    svg)
+from _style import CORAL, GREY, INK, LIGHT_GREY, LIGHT_TEAL, PAPER, WHITE, svg
 from hands import FINGER_COLOURS, mix
 
 # The keyboard -------------------------------------------------------------------------------
@@ -102,15 +100,16 @@ def reached(hand, finger):
     return [k for k in KEYS if (k.hand, k.finger) == (hand, finger) and k.name != "home"]
 
 
+def key_face(key, fill, edge, drop=0.0):
+    return (f'<rect x="{key.x + 0.5}" y="{key.y + 0.5 + drop}" width="{key.width - 1}" '
+            f'height="{KEY_HEIGHT - 1}" rx="4" fill="{fill}" stroke="{edge}"/>')
+
+
 def key_cap(key, fill, edge, pressed=False):
-    drop = 1.6 if pressed else 0.0
-    out = []
-    if not pressed:
-        out.append(f'<rect x="{key.x}" y="{key.y + 1.6}" width="{key.width}" '
-                   f'height="{KEY_HEIGHT}" rx="4.5" fill="#000000" fill-opacity="0.16"/>')
-    out.append(f'<rect x="{key.x + 0.5}" y="{key.y + 0.5 + drop}" width="{key.width - 1}" '
-               f'height="{KEY_HEIGHT - 1}" rx="4" fill="{fill}" stroke="{edge}"/>')
-    return "".join(out)
+    if pressed:
+        return key_face(key, fill, edge, 1.6)
+    return (f'<rect x="{key.x}" y="{key.y + 1.6}" width="{key.width}" height="{KEY_HEIGHT}" '
+            'rx="4.5" fill="#000000" fill-opacity="0.16"/>' + key_face(key, fill, edge))
 
 
 def board(fill_of, pressed=()):
@@ -134,26 +133,33 @@ def board(fill_of, pressed=()):
 MIRROR_X = (home_key("left", "index").centre()[0] + home_key("right", "index").centre()[0]) / 2
 
 HAND_SCALE = 1.17
-THUMB_REST = (163.0, 113.0)      # of the left thumb's pad, on the space bar
-HAND_TURN = 10.0                 # degrees; the forearms come from outside
-HAND_ANCHOR = (52.0, 30.0)       # this point of the model lies in the middle of the home keys
+THUMB_REST = (158.0, 111.0)      # of the left thumb's pad, on the space bar
+HAND_TURN = 9.0                  # degrees; the forearms come from outside
+HAND_ANCHOR = (52.0, 36.5)       # this point of the model lies in the middle of the home keys
+HAND_EDGE = 1.5                  # the width of a laid hand's outline
+
+# How far down its home key a finger's pad lies, in shares of the key's height: the bent fingers end
+# on an arc, the little finger nearest to the hand.
+PAD_DOWN = {"little": 0.80, "ring": 0.46, "middle": 0.32, "index": 0.52}
 
 
 class Placing:
     """Where the left hand lies on the board, or the mirrored right hand."""
 
-    def __init__(self):
+    def __init__(self, moved, turn):
+        self.turn = turn
         a, b = (home_key("left", f).centre() for f in ("ring", "middle"))
-        self.origin = hands.along(a, b, 0.5)
+        x, y = hands.along(a, b, 0.5)
+        self.origin = (x + moved[0], y + moved[1])
 
     def to_model(self, p):
-        turn = math.radians(-HAND_TURN)
+        turn = math.radians(-self.turn)
         x, y = (p[0] - self.origin[0]) / HAND_SCALE, (p[1] - self.origin[1]) / HAND_SCALE
         return (x * math.cos(turn) - y * math.sin(turn) + HAND_ANCHOR[0],
                 x * math.sin(turn) + y * math.cos(turn) + HAND_ANCHOR[1])
 
     def transform(self):
-        return (f'translate({self.origin[0]:.2f} {self.origin[1]:.2f}) rotate({HAND_TURN}) '
+        return (f'translate({self.origin[0]:.2f} {self.origin[1]:.2f}) rotate({self.turn}) '
                 f'scale({HAND_SCALE}) translate({-HAND_ANCHOR[0]} {-HAND_ANCHOR[1]})')
 
 
@@ -161,53 +167,66 @@ def mirrored_point(p):
     return (2 * MIRROR_X - p[0], p[1])
 
 
+def rest_point(hand, finger):
+    """Where a finger's pad lies on its home key, or the thumb's on the space bar."""
+    if finger == "thumb":
+        return THUMB_REST if hand == "left" else mirrored_point(THUMB_REST)
+    key = home_key(hand, finger)
+    return (key.centre()[0], key.y + KEY_HEIGHT * PAD_DOWN[finger])
+
+
 def on_keys(hand, aims, placing):
     """The five fingers, each with its pad on its home key or where `aims` sends it."""
     fingers = []
     for finger in hands.FINGERS:
-        if finger.name == "thumb":
-            point = THUMB_REST
-        else:
-            point = aims.get(finger.name) or home_key(hand, finger.name).centre()
-            point = mirrored_point(point) if hand == "right" else point
+        point = aims.get(finger.name) or rest_point(hand, finger.name)
+        point = mirrored_point(point) if hand == "right" else point
         x, y = placing.to_model(point)
         pad = finger.aimed((x, y)).tip_centre()
         fingers.append(finger.aimed((2 * x - pad[0], 2 * y - pad[1])))
     return tuple(fingers)
 
 
-def sleeve():
-    shape = "M41.4 149 Q65 153.5 88.6 149 L96 340 L28 340 Z"
-    return f'<path d="{shape}" fill="{LIGHT_TEAL}"/>' + hands.stroke(shape, INK, 2)
+def sleeve(edge=HAND_EDGE):
+    """A sleeve with its cuff that goes on out of the picture."""
+    cuff = "M39.5 143 Q65 148.5 90.5 143 L92 154 Q65 159.5 38 154 Z"
+    arm = "M41 151 L27 340 L103 340 L89 151 Z"
+    return (f'<path d="{arm}" fill="{LIGHT_TEAL}"/>' + hands.stroke(arm, INK, edge + 0.2)
+            + f'<path d="{cuff}" fill="{mix(LIGHT_TEAL, WHITE, 0.72)}"/>'
+            + hands.stroke(cuff, INK, edge + 0.2))
 
 
 def only_finger(finger, key, body):
-    """The part of a hand's picture that is this finger, fading out towards the knuckle."""
-    shape = hands.region(finger)
-    return (f'<defs>{hands.gradient_along(finger, key + "fade", WHITE)}<mask id="{key}only">'
-            f'<path d="{shape}" fill="url(#{key}fade)" stroke="url(#{key}fade)" '
-            f'stroke-width="2"/></mask></defs><g mask="url(#{key}only)">{body}</g>')
+    """The part of a hand's picture that is this finger, with its outline and its edge."""
+    shape, _ = hands.lit_region(finger)
+    return (f'<mask id="{key}only"><path d="{shape}" fill="#FFFFFF" stroke="#FFFFFF" '
+            f'stroke-width="{HAND_EDGE}"/></mask><g mask="url(#{key}only)">{body}</g>')
 
 
 class LaidHand:
     """A hand on the board; `colours` are those of its coloured fingers by name.
 
     `mark` names the striking finger, `aims` gives the places of fingers that have left their
-    home keys, in the units of the board.
+    home keys, and `moved` is the way that the hand itself has gone, for a right hand mirrored;
+    both in the units of the board. `turn` is its turn in degrees, and `edge` the width of the
+    outline.
     """
 
-    def __init__(self, hand, colours, mark=None, aims=None):
+    def __init__(self, hand, colours, mark=None, aims=None, moved=(0.0, 0.0), turn=HAND_TURN,
+                 edge=HAND_EDGE):
         self.hand = hand
         self.colours = colours
         self.mark = mark
-        self.placing = Placing()
+        self.edge = edge
+        self.placing = Placing(moved, turn)
         self.fingers = on_keys(hand, aims or {}, self.placing)
         if mark:
             self.fingers = tuple(f.lifted(1.0, 1.12) if f.name == mark else f
                                  for f in self.fingers)
 
     def drawing(self, key):
-        return hands.left_hand(self.mark, True, key, self.colours.get, self.fingers)
+        return hands.left_hand(self.mark, True, key, self.colours.get, self.fingers,
+                               self.hand == "right", self.edge, sleeve(self.edge))
 
     def placed(self, body):
         body = f'<g transform="{self.placing.transform()}">{body}</g>'
@@ -217,7 +236,7 @@ class LaidHand:
 
     def whole(self, opacity):
         """The hand with its sleeve; below 1 the keys shine through."""
-        return self.placed(f'<g opacity="{opacity}">{self.drawing(self.hand)}{sleeve()}</g>')
+        return self.placed(f'<g opacity="{opacity}">{self.drawing(self.hand)}</g>')
 
     def coloured_fingers(self):
         """Only the coloured fingers, to stand undimmed on a hand that the keys shine through."""
@@ -270,38 +289,42 @@ def aim_point(key):
     return (x, y)
 
 
+def touches(key, home):
+    """Whether a key lies beside the home key, so that no arrow is needed to it."""
+    side = key.x <= home.x + home.width + 4 and key.x + key.width >= home.x - 4
+    return side and abs(key.y - home.y) <= ROW_STEP and not key.name
+
+
 def reach_arrows(hand, finger, width):
-    """Arrows from the home key to the keys reached; none to a key on the way to another."""
-    home = home_key(hand, finger).centre()
-    far_first = sorted((aim_point(k) for k in reached(hand, finger)),
-                       key=lambda p: -hands.distance(home, p))
-    angles, out = [], []
-    for point in far_first:
-        angle = math.degrees(math.atan2(point[1] - home[1], point[0] - home[0]))
-        if all(abs(angle - other) > 13 for other in angles):
-            angles.append(angle)
-            out.append(arrow(home, point, width, start_gap=9, end_gap=2))
-    return "".join(out)
+    """Arrows from the fingertip to the keys reached that are not beside the home key."""
+    home = home_key(hand, finger)
+    x, y = rest_point(hand, finger)
+    start = (x, y - 6)
+    return "".join(arrow(start, aim_point(key), width, start_gap=7)
+                   for key in reached(hand, finger) if not touches(key, home))
 
 
-def reach_map(width, height, finger, scale, top):
+def reach_map(width, height, finger, scale, top, tones=(0.5, 0.5)):
+    """The keys that a finger of each hand strikes, in its colour; `tones` are the shares of the
+    colour in the keys of the left and of the right hand."""
     colour = FINGER_COLOURS[finger]
-    zone = mix(colour, WHITE, 0.5)
+    edge = mix(colour, INK, 0.6)
+    tone = dict(zip(("left", "right"), tones))
 
     def fill_of(key):
         if key.finger != finger:
             return None
-        return colour if key.name == "home" else zone
+        return mix(colour, WHITE, 0.85 if key.name == "home" else tone[key.hand])
 
     laid = [LaidHand(hand, {finger: colour}) for hand in ("left", "right")]
     body = [board(fill_of)]
-    body += [hand.whole(0.6) for hand in laid]
-    # The keys of the zone that the hands cover show through more than the rest.
-    body.append('<g opacity="0.5">')
-    body += [key_cap(k, fill_of(k), mix(colour, INK, 0.6), True) for k in KEYS if fill_of(k)]
+    body += [hand.whole(0.85) for hand in laid]
+    # The finger's keys stay in sight under the rest of the hand.
+    body.append('<g opacity="0.78">')
+    body += [key_face(k, fill_of(k), edge) for k in KEYS if fill_of(k)]
     body.append('</g>')
     body += [hand.coloured_fingers() for hand in laid]
-    body += [reach_arrows(hand, finger, 1.8) for hand in ("left", "right")]
+    body += [reach_arrows(hand, finger, 1.6) for hand in ("left", "right")]
     middle = BOARD_WIDTH / 2 if scale * BOARD_WIDTH < width else MIRROR_X
     left = width / 2 - middle * scale
     return framed(width, height,
@@ -316,116 +339,59 @@ def counter(x, y, count):
     return "".join(out)
 
 
-# The panels of the strike, from the side. A panel is 200 x 145; the finger comes from the right.
-PANEL = (200, 145)
-KEY_TOP = 97.0
-STRUCK_X = 66.0
-SIDE_PROFILE = ((0.14, 1.10), (0.28, 0.99), (0.40, 1.04), (0.47, 1.14), (0.54, 1.08), (0.63, 0.94),
-                (0.72, 0.97), (0.79, 0.93), (0.875, 0.86))
+def shift_sign(x, y, size, fill=WHITE, edge=INK, width=1.6):
+    """The hollow arrow of the Shift keys about a middle."""
+    points = ((0, -0.55), (0.56, 0.06), (0.25, 0.06), (0.25, 0.5), (-0.25, 0.5), (-0.25, 0.06),
+              (-0.56, 0.06))
+    data = "M" + " L".join(hands.fmt((x + px * size, y + py * size)) for px, py in points) + " Z"
+    return f'<path d="{data}" fill="{fill}"/>' + hands.stroke(data, edge, width)
 
 
-def side_finger(tip_y):
-    """A bent finger whose tip is at this height; its knuckle hardly moves."""
-    lift = tip_y - KEY_TOP
-    axis = ((226.0, 60.0 + lift * 0.1), (182.0, 46.0 + lift * 0.15), (138.0, 32.0 + lift * 0.3),
-            (118.0, 35.0 + lift * 0.4), (88.0, 57.0 + lift * 0.8), (78.0, 71.0 + lift * 0.9),
-            (STRUCK_X, tip_y))
-    return hands.Finger("side", axis, 15.0, SIDE_PROFILE, base=((0.0, 1.3), (0.0, 1.25)))
-
-
-def side_finger_drawing(finger, key):
-    shape = hands.smooth(finger.contour(), closed=True)
-    lit = hands.smooth([(x - 3.0, y - 4.0) for x, y in finger.contour()], closed=True)
-    nail = hands.smooth([finger.beside(t, o) for t, o in
-                         ((0.855, 0.80), (0.92, 0.86), (0.985, 0.60), (0.97, 0.38),
-                          (0.90, 0.46), (0.855, 0.55))], closed=True)
-    folds = (((0.445, 1.06), (0.455, 0.66)), ((0.485, 1.08), (0.485, 0.60)),
-             ((0.73, 0.92), (0.735, 0.58)), ((0.48, -0.98), (0.465, -0.58)),
-             ((0.74, -0.92), (0.73, -0.55)))
-    out = [f'<clipPath id="{key}"><path d="{shape}"/></clipPath>',
-           f'<path d="{shape}" fill="url(#skin)"/>',
-           f'<g clip-path="url(#{key})"><path d="{shape} {lit}" fill="{hands.SKIN_OUTLINE}" '
-           'fill-rule="evenodd" fill-opacity="0.22"/></g>',
-           f'<path d="{nail}" fill="{hands.NAIL}" stroke="{hands.SKIN_OUTLINE}" '
-           'stroke-width="1.2"/>']
-    for (t0, o0), (t1, o1) in folds:
-        a, b = finger.beside(t0, o0), finger.beside(t1, o1)
-        out.append(hands.stroke(f"M{hands.fmt(a)} L{hands.fmt(b)}", hands.SKIN_OUTLINE, 1.3, 0.7))
-    out.append(hands.stroke(shape, hands.SKIN_OUTLINE, 2))
-    return "".join(out)
-
-
-def side_key(x, down, fill):
-    top, half = KEY_TOP + down, 24.0
-    return (f'<rect x="{x - 8}" y="{top + 10}" width="16" height="30" fill="{GREY}"/>'
-            f'<path d="M{x - half + 5} {top} H{x + half - 5} q4 0 5 5 l2.5 17 q0.5 4 -3.5 4 '
-            f'H{x - half + 1} q-4 0 -3.5 -4 l2.5 -17 q1 -5 5 -5 Z" fill="{fill}" '
-            f'stroke="{INK}" stroke-width="2" stroke-linejoin="round"/>')
-
-
-def strike_panel(phase):
-    tip, down = {1: (KEY_TOP - 20, 0.0), 2: (KEY_TOP + 11, 11.0), 3: (KEY_TOP - 20, 0.0)}[phase]
-    width, height = PANEL
-    out = [f'<rect width="{width}" height="{height}" rx="12" fill="{PALE_TEAL}"/>']
-    for x in (STRUCK_X - 57, STRUCK_X + 57, STRUCK_X + 114):
-        out.append(side_key(x, 0.0, WHITE))
-    out.append(side_key(STRUCK_X, down, AMBER if phase == 2 else mix(AMBER, WHITE, 0.35)))
-    out.append(f'<rect y="129" width="{width}" height="20" fill="{LIGHT_GREY}" stroke="{INK}" '
-               'stroke-width="2"/>')
-    out.append(side_finger_drawing(side_finger(tip), f"finger{phase}"))
-    if phase == 2:
-        for x0, y0, x1, y1 in ((-19, -10, -25, -22), (-27, -6, -38, -14), (29, -7, 40, -13)):
-            out.append(hands.stroke(f"M{STRUCK_X + x0} {KEY_TOP + y0} L{STRUCK_X + x1} "
-                                    f"{KEY_TOP + y1}", CORAL, 3))
-    else:
-        ends = ((34, 46), (34, 88)) if phase == 1 else ((34, 88), (34, 46))
-        out.append(arrow(*ends, width=4, colour=CORAL))
-    out.append(counter(19, 19, phase))
-    return "".join(out)
-
-
-def strike(width, height):
-    """Above the key, down on it, up again; to be read from the right, as the arrows tell."""
-    out = [hands.skin_gradient("skin", False),
-           f'<clipPath id="panel"><rect width="{PANEL[0]}" height="{PANEL[1]}" rx="12"/>'
-           '</clipPath>']
-    gap = (width - 3 * PANEL[0] - 2 * 18) / 2
-    y = (height - PANEL[1]) / 2
-    for place in range(3):
-        x = 18 + place * (PANEL[0] + gap)
-        out.append(f'<g transform="translate({x} {y})">'
-                   f'<g clip-path="url(#panel)">{strike_panel(3 - place)}</g>'
-                   f'<rect width="{PANEL[0]}" height="{PANEL[1]}" rx="12" fill="none" '
-                   f'stroke="{TEAL}" stroke-width="2"/></g>')
-        if place:
-            out.append(arrow((x - 8, height / 2), (x - gap + 8, height / 2), 4, TEAL))
-    return framed(width, height, "".join(out))
+def held_meanwhile(x, y):
+    """The two steps below one another's time, from the right: Shift is held under both."""
+    little, index = FINGER_COLOURS["little"], FINGER_COLOURS["index"]
+    deep = mix(little, INK, 0.6)
+    return (f'<g transform="translate({x} {y})">'
+            + counter(30, 25, 1) + counter(-24, 2, 2)
+            + f'<rect x="-47" y="39" width="94" height="21" rx="10.5" fill="{little}" '
+            f'stroke="{deep}" stroke-width="2"/>' + shift_sign(30, 50, 15, width=1.4)
+            + hands.stroke("M12 49.5 H-34", WHITE, 3)
+            + f'<rect x="-38" y="16" width="28" height="21" rx="4.5" fill="{index}" '
+            f'stroke="{mix(index, INK, 0.6)}" stroke-width="2"/></g>')
 
 
 def shift_picture(width, height, scale, top):
     shift, struck = named_key("left shift"), home_key("right", "index")
-    colours = {shift: FINGER_COLOURS["little"], struck: FINGER_COLOURS["index"]}
-    left = LaidHand("left", {"little": FINGER_COLOURS["little"]},
-                    aims={"little": (shift.x + 43, shift.y + 13)})
+    colours = {shift: FINGER_COLOURS["little"],
+               struck: mix(FINGER_COLOURS["index"], WHITE, 0.85)}
+    aims = {"little": (shift.x + 46, shift.y + 13)}
+    aims.update({f: (rest_point("left", f)[0], rest_point("left", f)[1] + 3)
+                 for f in ("ring", "middle", "index")})
+    left = LaidHand("left", {"little": FINGER_COLOURS["little"]}, aims=aims,
+                    moved=(-12.0, 8.0), turn=3.0)
     right = LaidHand("right", {"index": FINGER_COLOURS["index"]}, mark="index")
     home = home_key("left", "little")
     colours[home] = mix(FINGER_COLOURS["little"], WHITE, 0.35)
+    x, y = shift.x + 17, shift.y + 13.5
     above = struck.centre()[0], struck.y - 20
-    body = [board(colours.get, pressed=(shift,)), left.whole(0.75), right.whole(0.75),
+    other = named_key("right shift")
+    body = [board(colours.get, pressed=(shift,)), shift_sign(x, y, 15),
+            shift_sign(other.x + 20, other.y + 12, 15, WHITE, GREY),
+            left.whole(0.9), right.whole(0.9),
             left.coloured_fingers(), right.coloured_fingers(),
-            arrow((home.x + 6, home.y + 9), (shift.x + 26, shift.y + 1), 2.2, bend=0.25),
-            counter(shift.x + 14, shift.y + 13, 1), counter(above[0], above[1], 2)]
+            arrow((home.x + 8, home.y + 12), (shift.x + 44, shift.y - 1), 2.0, bend=0.25),
+            counter(x, y - ROW_STEP, 1), counter(above[0], above[1], 2)]
     x = (width - BOARD_WIDTH * scale) / 2
     return framed(width, height,
-                  f'<g transform="translate({x:.2f} {top}) scale({scale})">{"".join(body)}</g>')
+                  f'<g transform="translate({x:.2f} {top}) scale({scale})">{"".join(body)}</g>'
+                  + held_meanwhile(x + MIRROR_X * scale - 2, height - 74))
 
 
 PICTURES = {
-    138: lambda: reach_map(281, 214, "index", 0.80, 20),
+    138: lambda: reach_map(281, 214, "index", 0.80, 20, (0.38, 0.66)),
     139: lambda: reach_map(420, 260, "middle", 0.93, 26),
     140: lambda: reach_map(420, 260, "ring", 0.93, 26),
     141: lambda: reach_map(480, 280, "little", 1.07, 26),
-    142: lambda: strike(708, 173),
     143: lambda: shift_picture(520, 300, 1.15, 30),
 }
 

@@ -19,7 +19,7 @@ import os
 import sys
 from dataclasses import dataclass, replace
 
-from _style import AMBER, CORAL, INK, LIGHT_TEAL, TEAL
+from _style import AMBER, INK, LIGHT_TEAL, TEAL
 
 PLAIN_SIZE = (128, 147)
 COLOURED_SIZE = (142, 162)
@@ -35,6 +35,7 @@ SKIN_LIGHT = "#FAE3CF"
 SKIN_SHADE = "#DDAF8D"
 SKIN_OUTLINE = "#7A4E36"
 NAIL = "#FBE7D8"
+MARK = "#F0921E"     # of the striking finger on a plain hand
 
 FINGER_COLOURS = {
     "little": "#8E5BB5",
@@ -121,7 +122,8 @@ class Finger:
 
     `profile` gives, for places along the axis (0 the knuckle, 1 the tip), half the thickness as
     a share of `half_width`; the two of `base` are where the left and the right side come out of
-    the hand. The last place lies before the tip; the tip is rounded from there.
+    the hand. The last place lies before the tip; the tip is rounded from there. `lit_from` are
+    the same for the part that is coloured, where it begins in the hand itself.
     """
     name: str
     axis: tuple
@@ -130,6 +132,7 @@ class Finger:
     base: tuple
     nail_turn: float = 0.0  # sideways shift of the nail in shares of the half width
     creases: tuple = (0.53, 0.77)
+    lit_from: tuple = ()
 
     def lifted(self, longer, thicker):
         root = self.axis[0]
@@ -137,7 +140,8 @@ class Finger:
         return replace(self, axis=axis, half_width=self.half_width * thicker)
 
     def aimed(self, tip):
-        """The finger turned and stretched about its knuckle until its tip is at `tip`."""
+        """The finger turned and stretched about its knuckle until its tip is at `tip`. Where it
+        comes out of the hand stays at the same distance from the knuckle."""
         root, end = self.axis[0], self.axis[-1]
         ex, ey = end[0] - root[0], end[1] - root[1]
         tx, ty = tip[0] - root[0], tip[1] - root[1]
@@ -146,7 +150,12 @@ class Finger:
         axis = tuple((root[0] + (x - root[0]) * real - (y - root[1]) * imaginary,
                       root[1] + (x - root[0]) * imaginary + (y - root[1]) * real)
                      for x, y in self.axis)
-        return replace(self, axis=axis)
+        stretch = math.hypot(real, imaginary)
+
+        def kept(places):
+            return tuple((t / stretch, w) for t, w in places)
+
+        return replace(self, axis=axis, base=kept(self.base), lit_from=kept(self.lit_from))
 
     def centre_line(self):
         line = []
@@ -218,8 +227,9 @@ FINGERS = (
            base=((0.36, 1.02), (0.36, 1.02))),
     Finger("index", ((78.5, 81.0), (84.2, 55.0), (86.3, 41.5), (87.2, 27.5)), 7.3, LONG,
            base=((0.40, 1.01), (0.36, 1.05))),
-    Finger("thumb", ((79.0, 128.0), (97.0, 110.0), (106.5, 97.5), (111.2, 81.5)), 8.0, THUMB,
-           base=((0.61, 0.94), (0.52, 1.01)), nail_turn=0.22, creases=(0.66,)),
+    Finger("thumb", ((79.0, 128.0), (95.5, 110.0), (104.6, 97.5), (108.6, 81.5)), 8.0, THUMB,
+           base=((0.61, 0.94), (0.52, 1.01)), nail_turn=0.22, creases=(0.66,),
+           lit_from=((0.53, 0.96), (0.37, 1.08))),
 )
 
 WRIST_LEFT = ((45.6, 156.0), (44.9, 141.0), (41.4, 130.5), (35.6, 118.5), (31.6, 107.0),
@@ -234,13 +244,33 @@ WRIST_MIDDLE = (66.0, 156.0)
 WRIST_RIGHT = ((98.3, 119.5), (90.0, 129.0), (85.2, 138.5), (84.4, 156.0))
 
 
+# How far the points between index finger and thumb go with the thumb; the others between two
+# fingers go with both.
+WEB_OF_THUMB = (0.0, 0.1, 0.45, 0.9)
+
+
+def web(finger, follower):
+    """The points between two fingers."""
+    ours = {f.name: f for f in FINGERS}
+    thumb = follower.name == "thumb"
+
+    def middle(one, other):
+        return other.side(-1)[0] if thumb else along(one.side(1)[0], other.side(-1)[0], 0.5)
+
+    x0, y0 = middle(ours[finger.name], ours[follower.name])
+    x1, y1 = middle(finger, follower)
+    points = WEBS[(finger.name, follower.name)]
+    shares = WEB_OF_THUMB if thumb else (1.0,) * len(points)
+    return tuple((x + (x1 - x0) * k, y + (y1 - y0) * k) for (x, y), k in zip(points, shares))
+
+
 def outline(fingers):
     """The points of the hand's outline, from the wrist's left round to its right."""
     points = list(WRIST_LEFT)
     for finger, follower in zip(fingers, fingers[1:] + (None,)):
         points += finger.contour()
         if follower:
-            points += WEBS[(finger.name, follower.name)]
+            points += web(finger, follower)
     return points + list(WRIST_RIGHT)
 
 
@@ -259,11 +289,6 @@ def fmt(p):
 def stroke(data, colour, width, opacity=1.0):
     return (f'<path d="{data}" fill="none" stroke="{colour}" stroke-width="{width}" '
             f'stroke-linecap="round" stroke-linejoin="round" stroke-opacity="{opacity}"/>')
-
-
-def region(finger):
-    """The finger as a closed shape that reaches into the back of the hand."""
-    return smooth(finger.contour() + [finger.place(0.10)[0]], closed=True)
 
 
 def nail(finger, colour, line):
@@ -295,27 +320,31 @@ def finger_fill(name, mark, coloured):
     """The colour of a finger, or None where it shows the skin."""
     if coloured:
         return FINGER_COLOURS[name] if name == mark else pale(FINGER_COLOURS[name])
-    return CORAL if name == mark else None
+    return MARK if name == mark else None
 
 
-def gradient_along(finger, key, colour, opacity=1.0):
-    """Colour that comes up softly out of the back of the hand and is full at the web."""
-    (x1, y1), _ = finger.place(0.23)
-    (x2, y2), _ = finger.place(0.42)
-    return (f'<linearGradient id="{key}" gradientUnits="userSpaceOnUse" x1="{x1:.2f}" '
-            f'y1="{y1:.2f}" x2="{x2:.2f}" y2="{y2:.2f}">'
-            f'<stop offset="0" stop-color="{colour}" stop-opacity="0"/>'
-            f'<stop offset="1" stop-color="{colour}" stop-opacity="{opacity}"/>'
-            '</linearGradient>')
+def lit_region(finger):
+    """The finger from the web to its tip as a closed shape, and its edge across the hand."""
+    contour = finger.contour()
+    if finger.lit_from:
+        (t0, w0), (t1, w1) = finger.lit_from
+        contour = [finger.beside(t0, -w0)] + contour + [finger.beside(t1, w1)]
+    left, right = contour[0], contour[-1]
+    _, (dx, dy) = finger.place(finger.base[0][0])
+    bow = finger.half_width * 0.75
+    sag = ((left[0] + right[0]) / 2 - dx * bow, (left[1] + right[1]) / 2 - dy * bow)
+    edge = f"Q{fmt(sag)} {fmt(left)}"
+    return smooth(contour) + f" {edge} Z", f"M{fmt(right)} {edge}"
 
 
-def skin_gradient(key, coloured):
+def skin_gradient(key, coloured, right=False):
     # The coloured hand is lighter, or the pale index finger and thumb would drown in the skin.
     light, middle, dark = SKIN_LIGHT, SKIN, mix(SKIN, SKIN_SHADE, 0.65)
     if coloured:
         light, middle, dark = (mix(c, "#FFFFFF", 0.6) for c in (light, middle, dark))
-    return (f'<linearGradient id="{key}" gradientUnits="userSpaceOnUse" x1="30" y1="20" x2="95" '
-            f'y2="145"><stop offset="0" stop-color="{light}"/>'
+    x1, x2 = (98, 33) if right else (30, 95)
+    return (f'<linearGradient id="{key}" gradientUnits="userSpaceOnUse" x1="{x1}" y1="20" '
+            f'x2="{x2}" y2="145"><stop offset="0" stop-color="{light}"/>'
             f'<stop offset="0.55" stop-color="{middle}"/>'
             f'<stop offset="1" stop-color="{dark}"/></linearGradient>')
 
@@ -351,54 +380,67 @@ def tap_mark(finger, key, colour):
     x, y = finger.tip_centre()
     circle = f'<circle cx="{x:.2f}" cy="{y:.2f}"'
     return (f'<radialGradient id="{key}" gradientUnits="userSpaceOnUse" cx="{x:.2f}" '
-            f'cy="{y:.2f}" r="17"><stop offset="0.4" stop-color="{colour}" stop-opacity="0.55"/>'
-            f'<stop offset="1" stop-color="{colour}" stop-opacity="0"/></radialGradient>'
-            f'{circle} r="17" fill="url(#{key})"/>'
-            f'{circle} r="13" fill="none" stroke="{colour}" stroke-width="2.2"/>')
+            f'cy="{y:.2f}" r="15"><stop offset="0.4" stop-color="{colour}" stop-opacity="0.6"/>'
+            f'<stop offset="1" stop-color="{colour}" stop-opacity="0.1"/></radialGradient>'
+            f'{circle} r="12.6" fill="url(#{key})"/>'
+            f'{circle} r="12.6" fill="none" stroke="{colour}" stroke-width="2.4"/>')
 
 
-def lift_mark(finger, key, colour):
-    """What lies under a striking finger: the tap mark and the finger's own deeper shadow."""
-    return (tap_mark(finger, key + "glow", colour)
-            + f'<defs>{gradient_along(finger, key + "lift", "#000000", 0.2)}</defs>'
-            + f'<path d="{region(finger)}" transform="translate(3.5 5)" '
-            + f'fill="url(#{key}lift)"/>')
+def shadow(fingers, mark, right):
+    """The hand's shadow at the lower right, even when the drawing is mirrored afterwards. A
+    striking finger is lifted, so its shadow falls farther."""
+    side = -1 if right else 1
+    fallen = tuple(f.aimed((f.axis[-1][0] + 2.5 * side, f.axis[-1][1] + 2.0))
+                   if f.name == mark else f for f in fingers)
+    return (f'<path d="{smooth(outline(fallen), closed=True)}" '
+            f'transform="translate({2 * side} 3)" fill="#000000" fill-opacity="0.14"/>')
 
 
-def left_hand(mark, coloured, key="", fill_of=None, fingers=None):
+def lit_finger(finger, colour, right):
+    """A finger in its colour up to a clean edge, with a highlight on the side of the light."""
+    shape, edge = lit_region(finger)
+    side = 0.42 if right else -0.42
+    places = [finger.beside(t, side) for t in
+              (finger.base[0][0] + 0.10, finger.base[0][0] * 0.5 + 0.36, 0.80)]
+    return (f'<path d="{shape}" fill="{colour}"/>'
+            + stroke(smooth(places), mix(colour, "#FFFFFF", 0.55), finger.half_width * 0.36, 0.75)
+            + stroke(edge, mix(colour, SKIN_OUTLINE, 0.45), 1.5))
+
+
+def left_hand(mark, coloured, key="", fill_of=None, fingers=None, right=False, edge=2.0,
+              sleeve=None):
     """The left hand as SVG elements, in the units of the plain picture.
 
     `mark` names the striking finger or is None. `key` goes before every id, so that several
     hands can stand in one picture. `fill_of(name)` gives a finger's colour or None for skin,
-    and `fingers` the five fingers, if they are to differ from those of the set.
+    and `fingers` the five fingers, if they are to differ from those of the set. `right` says that
+    it will be mirrored, so that the light still comes from the upper left. `edge` is the width of
+    the outline, and `sleeve` is drawn over the wrist instead of the cuff.
     """
     fingers = fingers or posed(mark)
     points = outline(fingers)
     shape = smooth(points, closed=True)
-    lit = smooth([(x - 2.0, y - 1.4) for x, y in points], closed=True)
+    lit = smooth([(x + (2.0 if right else -2.0), y - 1.4) for x, y in points], closed=True)
     fill_of = fill_of or (lambda name: finger_fill(name, mark, coloured))
     filled = [(f, fill_of(f.name)) for f in fingers if fill_of(f.name)]
+    marked = [f for f in fingers if f.name == mark]
 
-    out = ['<defs>', skin_gradient(key + "skin", coloured),
-           f'<clipPath id="{key}hand"><path d="{shape}"/></clipPath>']
-    out += [gradient_along(f, key + f.name, colour) for f, colour in filled]
-    out.append('</defs>')
-    out += [lift_mark(f, key, fill_of(f.name) if coloured else AMBER)
-            for f in fingers if f.name == mark]
-    out.append(f'<path d="{shape}" transform="translate(2 3)" fill="#000000" '
-               'fill-opacity="0.14"/>')
+    out = ['<defs>', skin_gradient(key + "skin", coloured, right),
+           f'<clipPath id="{key}hand"><path d="{shape}"/></clipPath></defs>']
+    out += [tap_mark(f, key + "glow", fill_of(f.name) if coloured else AMBER) for f in marked]
+    out.append(shadow(fingers, mark, right))
     out.append(f'<path d="{shape}" fill="url(#{key}skin)"/>')
     out.append(back_of_hand(fingers))
     out.append(f'<g clip-path="url(#{key}hand)">')
-    out += [f'<path d="{region(f)}" fill="url(#{key}{f.name})"/>' for f, _ in filled]
+    out += [lit_finger(f, colour, right) for f, colour in filled]
     # The rim that the light from the upper left does not reach.
     out.append(f'<path d="{shape} {lit}" fill="{SKIN_OUTLINE}" fill-rule="evenodd" '
                'fill-opacity="0.22"/></g>')
     for f in fingers:
         out += [crease(f, t, 0.5, 1.2, SKIN_OUTLINE) for t in f.creases]
         out.append(nail(f, NAIL, SKIN_OUTLINE))
-    out.append(stroke(shape, SKIN_OUTLINE, 2))
-    out.append(cuff())
+    out.append(stroke(shape, SKIN_OUTLINE, edge))
+    out.append(cuff() if sleeve is None else sleeve)
     return "".join(out)
 
 
@@ -408,7 +450,7 @@ def mirrored(body):
 
 def picture(right, mark, coloured):
     width, height = COLOURED_SIZE if coloured else PLAIN_SIZE
-    body = left_hand(mark, coloured)
+    body = left_hand(mark, coloured, right=right)
     if right:
         body = mirrored(body)
     if coloured:

@@ -12,12 +12,16 @@ from dataclasses import replace
 
 import fingers
 import hands
-from _scene import arrow_along, box, curve, dashed, disc, line, moved, path, shade, sheet, write
-from _style import AMBER, INK, LIGHT_AMBER, LIGHT_GREY, TEAL, WHITE
-from fingers import BOARD_HEIGHT, BOARD_WIDTH, HOME_ROW, KEYS, ROW_STEP, LaidHand, home_key, key_cap
+from _scene import box, disc, line, moved, path, shade, sheet, write
+from _style import AMBER, INK, LIGHT_GREY, TEAL, WHITE
+from fingers import (BOARD_HEIGHT, BOARD_WIDTH, HOME_ROW, KEY_HEIGHT, KEYS, ROW_STEP, LaidHand,
+                     home_key, key_cap, rest_point)
 from hands import FINGER_COLOURS, SKIN_OUTLINE, mix
 
-ROW_COLOURS = ("#D3C7E8", "#A5D3D0", "#F6C27C", "#F4BFB0")
+# Teal and sand, as each finger has a colour of its own elsewhere.
+SAND = "#EBDCC0"
+DARK_SAND = "#D3BC93"
+ROW_COLOURS = (SAND, mix(TEAL, WHITE, 0.30), mix(TEAL, WHITE, 0.62), DARK_SAND)
 
 
 def row_of(key):
@@ -29,10 +33,10 @@ def is_character(key):
     return key.finger != "" and key.width == fingers.KEY_WIDTH
 
 
-def bump(key, colour=INK):
+def bump(key):
     """The raised line on a home key of an index finger."""
     x, y = key.centre()
-    return line([(x - 4.5, y + 7), (x + 4.5, y + 7)], colour, 2.2)
+    return line([(x - 5, y + 7), (x + 5, y + 7)], WHITE, 2.6)
 
 
 # The rows -----------------------------------------------------------------------------------
@@ -41,33 +45,31 @@ def bump(key, colour=INK):
 def row_colour(key):
     if not is_character(key):
         return None
-    if key.name == "home":
-        return AMBER
-    return ROW_COLOURS[row_of(key)]
+    return TEAL if key.name == "home" else ROW_COLOURS[row_of(key)]
 
 
 def fingertip(scale, x, y):
-    """The tip of a left index finger, with its end at (x, y)."""
+    """The tip of a left index finger, the middle of its pad at (x, y)."""
     finger = hands.FINGERS[3]
     shape = hands.smooth(finger.contour(), closed=True)
-    tip = finger.axis[-1]
-    body = (path(shape, "#000000", extra='fill-opacity="0.16" transform="translate(2 2.4)"')
+    pad = finger.tip_centre()
+    body = (path(shape, "#000000", extra='fill-opacity="0.18" transform="translate(2 2.4)"')
             + path(shape, "url(#fingerskin)", SKIN_OUTLINE, 2.2 / scale)
             + hands.crease(finger, finger.creases[1], 0.5, 1.2, SKIN_OUTLINE)
             + hands.nail(finger, hands.NAIL, SKIN_OUTLINE))
-    return moved(x, y, f'<g transform="translate({-tip[0]} {-tip[1]})">{body}</g>', scale)
+    return moved(x, y, f'<g transform="translate({-pad[0]:.2f} {-pad[1]:.2f})">{body}</g>', scale)
 
 
 def lens(x, y, radius, hand):
-    """A home key of an index finger enlarged, and the fingertip that feels its bump."""
-    keys = [(-117, -40, AMBER), (43, -40, ROW_COLOURS[2]), (-37, -40, AMBER)]
-    keys += [(k, 38, ROW_COLOURS[3]) for k in (-80, 0, 80)]
-    keys += [(k, -118, ROW_COLOURS[1]) for k in (-136, -56, 24)]
+    """A home key of an index finger enlarged, and the fingertip on its bump."""
+    keys = [(-121, -46, TEAL), (47, -46, ROW_COLOURS[2]), (-37, -46, TEAL)]
+    keys += [(k, 36, ROW_COLOURS[3]) for k in (-96, -12, 72)]
+    keys += [(k, -128, ROW_COLOURS[1]) for k in (-136, -52, 32)]
     body = [disc(0, 0, radius, LIGHT_GREY)]
     for left, top, fill in keys:
-        body.append(box(left, top + 4, 74, 72, 11, "#000000", extra='fill-opacity="0.14"'))
-        body.append(box(left, top, 74, 72, 11, fill, mix(fill, INK, 0.6)))
-    body += [fingertip(2.7, 1, 12), box(-16, -6, 32, 8, 4, WHITE, INK, 2.2)]
+        body.append(box(left, top + 4, 76, 74, 11, "#000000", extra='fill-opacity="0.14"'))
+        body.append(box(left, top, 76, 74, 11, fill, mix(fill, INK, 0.6)))
+    body += [box(-28, 4, 58, 9, 4.5, WHITE, INK, 2.2), fingertip(2.1, 1, 8.5)]
     picture = (f'<clipPath id="{hand}lens"><circle r="{radius}"/></clipPath>'
                f'<g clip-path="url(#{hand}lens)">{"".join(body)}</g>'
                + disc(0, 0, radius, "none", INK, 3))
@@ -82,8 +84,9 @@ def rows():
     lenses = []
     for key, hand, x in zip(bumped, ("left", "right"), (140, 360)):
         kx, ky = key.centre()
-        start = (left + kx * scale, top + (ky + 9) * scale)
-        lenses += [line([start, (x, middle)], INK, 2.4), lens(x, middle, radius, hand)]
+        start = (left + kx * scale, top + (ky + 9.5) * scale)
+        lenses += [line([start, (x, middle)], WHITE, 5), line([start, (x, middle)], INK, 2.4),
+                   lens(x, middle, radius, hand)]
     return sheet(500, 340,
                  shade("fingerskin", (80, 26, 94, 60), hands.SKIN_LIGHT,
                        mix(hands.SKIN, hands.SKIN_SHADE, 0.7))
@@ -92,62 +95,53 @@ def rows():
 
 # There and back -----------------------------------------------------------------------------
 
-
-# The fingers that are shown on their way: (hand, finger, step to the row).
-WAYS = (("left", "ring", -1), ("left", "middle", 1), ("left", "index", -1),
-        ("right", "index", 1), ("right", "middle", -1), ("right", "little", 1))
+# A finger of each hand on its way to the key over its home key.
+WAYS = (("left", "middle"), ("right", "index"))
 
 
-def neighbour(hand, finger, step):
-    """The key of the same finger a row up (-1) or down (1) from its home key."""
+def upper_key(hand, finger):
     home = home_key(hand, finger)
-    row = [k for k in KEYS if is_character(k) and row_of(k) == HOME_ROW + step
+    row = [k for k in KEYS if is_character(k) and row_of(k) == HOME_ROW - 1
            and (k.hand, k.finger) == (hand, finger)]
     return min(row, key=lambda k: abs(k.x - home.x))
 
 
-def loop(home, key):
-    """The way from the home key to another and back, bowed out to both sides."""
-    (x0, y0), (x1, y1) = home, key
-    nx, ny = (y1 - y0) * 0.4, -(x1 - x0) * 0.4
-    mx, my = x0 + (x1 - x0) * 0.55, y0 + (y1 - y0) * 0.55
-    return curve([(x0, y0), (mx + nx, my + ny), (x1, y1), (mx - nx, my - ny), (x0, y0)], 12)
-
-
-def way(hand, finger, step):
-    """Out with a thin line, and back with a strong one: it is the return that counts."""
-    points = loop(home_key(hand, finger).centre(), neighbour(hand, finger, step).centre())
-    out, back = points[:25], points[24:]
-    colour = mix(FINGER_COLOURS[finger], INK, 0.85)
-    return (line(points, WHITE, 5) + arrow_along(back[-2:], WHITE, 5, 6)
-            + dashed(out, colour, 1.8, "0.5 3.2") + arrow_along(back, colour, 2.6, 6.5)
-            + disc(*points[24], 3.2, colour, WHITE, 1))
+def there_and_back_again(hand, finger):
+    """One arrow out on one side of the finger, and one back on the other."""
+    colour = mix(FINGER_COLOURS[finger], INK, 0.78)
+    x, y = rest_point(hand, finger)
+    tip = (x, y - 6)
+    key = upper_key(hand, finger)
+    kx, ky = key.centre()
+    out = []
+    for side in (-1, 1):
+        low, high = (tip[0] + side * 12, tip[1] + 5), (kx + side * 4.5, ky - 5)
+        ends = (low, high) if side < 0 else (high, low)
+        out.append(fingers.arrow(*ends, 2.4, colour, bend=-0.38))
+    return "".join(out)
 
 
 def there_and_back():
-    scale, top = 1.72, 34
+    scale, top = 1.72, 40
     left = 260 - fingers.MIRROR_X * scale
-
-    targets = {neighbour(*step): FINGER_COLOURS[step[1]] for step in WAYS}
-
-    def colour(key):
-        if key in targets:
-            return mix(targets[key], WHITE, 0.4)
-        if key.name == "home":
-            return AMBER
-        return LIGHT_AMBER if is_character(key) and row_of(key) == HOME_ROW else None
-
-    laid = [LaidHand(hand, {}) for hand in ("left", "right")]
-    body = [fingers.board(colour)] + [hand.whole(0.58) for hand in laid]
-    body += [way(*step) for step in WAYS]
+    targets = {}
+    for hand, finger in WAYS:
+        targets[upper_key(hand, finger)] = mix(FINGER_COLOURS[finger], WHITE, 0.55)
+        targets[home_key(hand, finger)] = mix(FINGER_COLOURS[finger], WHITE, 0.35)
+    laid = [LaidHand(hand, {finger: FINGER_COLOURS[finger]}, edge=1.1)
+            for hand, finger in WAYS]
+    body = [fingers.board(targets.get)]
+    body += [fingers.key_face(key, "none", mix(INK, WHITE, 0.75)) for key in KEYS
+             if key.name == "home" and key not in targets]
+    body += [hand.whole(0.9) for hand in laid] + [hand.coloured_fingers() for hand in laid]
+    body += [there_and_back_again(*way) for way in WAYS]
     return sheet(520, 400, moved(left, top, "".join(body), scale))
 
 
 # The halves ---------------------------------------------------------------------------------
 
 APART = 5.0     # how far each half is moved from the other
-TONES = {"little": 0.40, "ring": 0.62, "middle": 0.40, "index": 0.62, "thumb": 0.62}
-HALVES = {"left": TEAL, "right": AMBER}
+HALVES = {"left": mix(TEAL, WHITE, 0.55), "right": mix(AMBER, WHITE, 0.72)}
 
 
 def hand_of(key):
@@ -157,36 +151,32 @@ def hand_of(key):
 
 
 def split_board():
-    out = []
-    for x0, x1 in ((-8 - APART, BOARD_WIDTH + 8 + APART),):
-        out.append(box(x0 + 3, -4, x1 - x0, BOARD_HEIGHT + 16, 10, "#000000",
-                       extra='fill-opacity="0.14"'))
-        out.append(box(x0, -8, x1 - x0, BOARD_HEIGHT + 16, 10, LIGHT_GREY, INK))
+    x0, width = -8 - APART, BOARD_WIDTH + 16 + 2 * APART
+    out = [box(x0 + 3, -4, width, BOARD_HEIGHT + 16, 10, "#000000",
+               extra='fill-opacity="0.14"'),
+           box(x0, -8, width, BOARD_HEIGHT + 16, 10, LIGHT_GREY, INK)]
     for key in KEYS:
         hand = hand_of(key)
-        colour = HALVES[hand]
-        if is_character(key) or key.name == "space":
-            fill = colour if key.name == "home" else mix(colour, WHITE, TONES[key.finger])
-        else:
-            fill = mix(colour, WHITE, 0.14)
+        fill = HALVES[hand] if key.finger else WHITE
         shifted = replace(key, x=key.x + (-APART if hand == "left" else APART))
         out.append(key_cap(shifted, fill, mix(fill, INK, 0.7)))
+        if key.name == "home":
+            out.append(box(shifted.x + 0.8, key.y + 0.8, key.width - 1.6, KEY_HEIGHT - 1.6, 4,
+                           "none", INK, 2.4))
     return "".join(out)
 
 
 def tinted_hand(hand):
-    """A hand whose fingers have the tones of their keys; only the right thumb strikes."""
-    colour = HALVES[hand]
-
+    """A hand in the colour of its keys; only the right thumb strikes."""
     def fill_of(name):
-        if name == "thumb" and hand == "left":
-            return None
-        return mix(colour, WHITE, TONES[name] + 0.12)
+        return None if name == "thumb" and hand == "left" else HALVES[hand]
 
-    sleeve = "M41 137.5 Q65 142.5 89 137.5 L97 220 L33 220 Z"
-    return (hands.left_hand(None, True, hand, fill_of)
-            + path(sleeve, mix(colour, WHITE, 0.75), INK)
-            + path("M40.6 143 Q65 148 89.4 143", "none", INK, 1.2))
+    cuff = "M39.5 137 Q65 142.5 90.5 137 L92 148 Q65 153.5 38 148 Z"
+    arm = "M41 145 L34 240 L96 240 L89 145 Z"
+    sleeve = (path(arm, HALVES[hand], INK, 1.6)
+              + path(cuff, mix(HALVES[hand], WHITE, 0.65), INK, 1.6))
+    return hands.left_hand(None, True, hand, fill_of, right=hand == "right", edge=1.6,
+                           sleeve=sleeve)
 
 
 def halves():
@@ -195,7 +185,7 @@ def halves():
     out = [moved(left, top, split_board(), scale)]
     for hand, x in (("left", 160), ("right", 440)):
         picture = moved(-64 * size, 0, tinted_hand(hand), size)
-        out.append(moved(x, 208, picture, mirror=hand == "right"))
+        out.append(moved(x, 206, picture, mirror=hand == "right"))
     return sheet(600, 430, "".join(out))
 
 
