@@ -1,5 +1,5 @@
-"""A preferences file of any length and any content is taken as it stands, and an exercise can be typed
-under whatever it holds."""
+"""A preferences file of any length and any content is taken as it stands, and an exercise can be
+typed under whatever it holds."""
 import random
 
 from harness import case, keys, screen

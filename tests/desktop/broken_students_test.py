@@ -1,5 +1,5 @@
-"""A student's file of any length and any content is taken as it stands, or the program ends with one
-clear report that names the file. It never crashes, hangs or writes where it should not."""
+"""A student's file of any length and any content is taken as it stands, or the program ends with
+one clear report that names the file. It never crashes, hangs or writes where it should not."""
 import random
 
 from harness import case, keys, screen

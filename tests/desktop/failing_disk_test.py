@@ -1,5 +1,5 @@
-"""A disk that fails when the results are saved: one clear report that names the file, exit status 1,
-and no other student's file is touched."""
+"""A disk that fails when the results are saved: one clear report that names the file, exit status
+1, and no other student's file is touched."""
 import os
 import resource
 import subprocess
@@ -37,7 +37,8 @@ class FailingDisk(case.DesktopTest):
         return allowed
 
     def test_full_disk(self):
-        """On a small disk of its own where one can be made, else on the device that is always full."""
+        """On a small disk of its own where one can be made, else on the device that is always
+        full."""
         small_disk = self.mount("-t", "tmpfs", "-o", "size=64k", "none")
         if small_disk:
             self.folder.put_student("Other", OTHER)
@@ -70,7 +71,8 @@ class FailingDisk(case.DesktopTest):
         self.assertEqual(self.file.read_bytes(), OLD)
 
     def test_read_only_folder(self):
-        """Mounted so where that can be done, for a superuser writes whatever the folder's mode says."""
+        """Mounted so where that can be done, for a superuser writes whatever the folder's mode
+        says."""
         self.sign_in("Layla")
         students = self.folder.students
         if self.mount("--bind", str(students)):

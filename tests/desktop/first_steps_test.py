@@ -1,4 +1,5 @@
-"""A new student signs in, types the first exercise, leaves, and finds the mark at the next visit."""
+"""A new student signs in, types the first exercise, leaves, and finds the mark at the next
+visit."""
 from harness import case, keys
 from harness.files import StudentFile
 

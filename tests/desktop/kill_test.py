@@ -1,5 +1,5 @@
-"""The program is killed at any moment of a run, again and again: the files are whole afterwards, and
-the program starts. KEYFLUENT_KILLS sets how often, KEYFLUENT_SEED the moments."""
+"""The program is killed at any moment of a run, again and again: the files are whole afterwards,
+and the program starts. KEYFLUENT_KILLS sets how often, KEYFLUENT_SEED the moments."""
 import os
 import pathlib
 import subprocess

@@ -1,12 +1,13 @@
-"""The window of an exercise: the mouse on its pictures and fields, and the keys that lead elsewhere in
-other windows."""
+"""The window of an exercise: the mouse on its pictures and fields, and the keys that lead elsewhere
+in other windows."""
 from harness import case, keys, screen
 from harness.files import StudentFile
 from harness.visitor import centre, showing
 from harness.waiting import let_pass
 
 # How the notes begin that a first stop may show; they are Arabic whatever the language.
-STOP_NOTES = ("ما الفائدة", "أتيت", "لا تتكاسل", "نذكرك", "بكل سرعة", "ماذا", "قد بدأت", "هل بإمكانك")
+STOP_NOTES = ("ما الفائدة", "أتيت", "لا تتكاسل", "نذكرك", "بكل سرعة", "ماذا", "قد بدأت",
+              "هل بإمكانك")
 
 # The place of the Caps Lock key in the picture of the keyboard, in pixels of the window, for a text
 # of 13 points or more.
@@ -134,8 +135,8 @@ class LessonWindow(case.DesktopTest):
         return keys.ENGLISH[letter][0], keys.LEFT_SHIFT
 
     def check_keys_that_lead_elsewhere(self, lesson):
-        """Without a cap they do nothing, with one they are wrong keys like any other; none moves the
-        keyboard to another control or opens anything."""
+        """Without a cap they do nothing, with one they are wrong keys like any other; none moves
+        the keyboard to another control or opens anything."""
         windows = self.program.windows()
         for place in (keys.TAB, keys.LEFT_ALT, keys.LEFT_CTRL, keys.LEFT, keys.HOME):
             self.keyboard.tap(place)
@@ -155,7 +156,8 @@ class LessonWindow(case.DesktopTest):
         self.key_is_right(lesson, "")
 
     def check_shift_in_a_blink(self, lesson):
-        """A Shift that goes down while a blink shuts keys out counts from the end of the blink on."""
+        """A Shift that goes down while a blink shuts keys out counts from the end of the blink
+        on."""
         self.type("j", keys.ENGLISH)
         self.keyboard.press(keys.RIGHT_SHIFT)
         self.key_is_wrong(lesson, "")

@@ -1,5 +1,5 @@
-"""A whole passage of the last lesson: faults are typed through and mended afterwards, with the mouse
-and the keys, in a text field that works as any other."""
+"""A whole passage of the last lesson: faults are typed through and mended afterwards, with the
+mouse and the keys, in a text field that works as any other."""
 from harness import case, keys, screen
 from harness.files import StudentFile
 from harness.visitor import centre

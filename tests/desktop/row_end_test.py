@@ -50,7 +50,8 @@ class RowEnd(case.DesktopTest):
         self.assertEqual(self.folder.student("Layla").read_bytes(), expected.bytes())
 
     def type_first_letter(self, lesson, letter):
-        """The wiping shuts keys out for one tick more than there is to see, so a key may be lost."""
+        """The wiping shuts keys out for one tick more than there is to see, so a key may be
+        lost."""
         def is_taken():
             self.type(letter, keys.ENGLISH)
             try:

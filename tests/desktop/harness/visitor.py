@@ -201,7 +201,8 @@ class Visitor:
         return button, texts[0].name, texts[1].name
 
     def open_exercise(self, exercise, arabic, aids=()):
-        """From the main window into an exercise of the current lesson, with the aids named ticked."""
+        """From the main window into an exercise of the current lesson, with the aids named
+        ticked."""
         button, _, _ = self.exercise_row(self.open_chooser(), exercise, arabic)
         self.click(button)
         options = self.window_with("push button", self.word("continue"))
