@@ -20,6 +20,7 @@
 #include "shell/forms/frmViewRecommands.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
@@ -364,7 +365,10 @@ void frmBlack::mouseMoveEvent(QMouseEvent*)
 void frmBlack::closeEvent(QCloseEvent* event)
 {
     event->ignore();
-    Quit();
+    // Some desktops ask a window that stands behind another one, which must have its answer first.
+    if (QApplication::activeModalWidget() == nullptr) {
+        Quit();
+    }
 }
 
 } // namespace keyfluent::shell

@@ -246,6 +246,8 @@ void ReleaseAt(QWidget& window, QPoint place)
 
 void MoveTo(QWidget& window, QPoint place)
 {
+    // The toolkit drops a move to where the pointer is: so it comes from the next pixel.
+    QTest::mouseMove(window.windowHandle(), place + QPoint(1, 0));
     QTest::mouseMove(window.windowHandle(), place);
 }
 
@@ -372,6 +374,9 @@ void Script::GiveUp(const QWidget* top)
         (steps_.empty() ? QByteArray("the windows to close") : steps_.front().window.toLatin1()) +
         ", and on top is " +
         (top == nullptr ? QByteArray("nothing") : top->objectName().toLatin1());
+    for (const QString& failure : world_.failures) {
+        report_ += "; failed: " + failure.toUtf8();
+    }
     steps_.clear();
     world_.program().End(99);
 }
