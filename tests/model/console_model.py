@@ -135,7 +135,7 @@ class Console:
         answers = method(self, *arguments)
         return [] if answers is None else answers if isinstance(answers, list) else [answers]
 
-    # Helpers
+    # What several commands share
 
     def byte(self, word):
         """A number that the core holds in a byte; another may be refused or found nowhere."""

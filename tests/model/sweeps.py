@@ -180,7 +180,8 @@ def diplomas():
                     "setrecord 1 15 0 0 0 0 15 0 0 0 0", "set reachedLessonMac 15",
                     "set reachedLessonWin 15",
                     f"setrecord {number} 1 1 1 1 {total - 4} 1 {total - 1} 0 0 0", "result",
-                    "diploma", "record 1", "record 31", "get gradeArabicMac", "get gradeEnglishWin", "result",
+                    "diploma",
+                    "record 1", "record 31", "get gradeArabicMac", "get gradeEnglishWin", "result",
                     f"setrecord {number} 1 1 1 1 {total - 3} 2 {total - 1} 1 2 3", "savestudent",
                     "loadstudent", "diploma", "record 1", "record 31"]
             yield f"diplomas {kind} {interface}", lines
