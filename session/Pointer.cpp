@@ -1,11 +1,14 @@
 #include "session/Pointer.h"
 
+#include "context/FatalError.h"
 #include "context/Random.h"
 #include "course/Lessons.h"
 #include "course/Notes.h"
 #include "session/Pictures.h"
 #include "session/RowEnd.h"
 #include "session/Selection.h"
+
+#include <limits>
 
 namespace keyfluent::session
 {
@@ -37,6 +40,9 @@ void PressStop(Lesson& lesson)
 {
     if (!lesson.imgStop.Reachable()) {
         return;
+    }
+    if (lesson.context.stopCount == std::numeric_limits<std::int32_t>::max()) {
+        throw context::FatalError("The stopped exercises are too many to count.");
     }
     ++lesson.context.stopCount;
     Unload(lesson);
