@@ -38,6 +38,7 @@ Form::Form(Program& program, const char* name, QSize size)
       arabic_(program.State().arabicInterface)
 {
     setObjectName(QString::fromLatin1(name));
+    setWindowTitle(arabic_ ? QStringLiteral("كي فلونت") : QStringLiteral("KeyFluent"));
     setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);

@@ -104,6 +104,7 @@ void frmViewRecommands::SetUpPage()
     lblB_->setVisible(recommendation && page == pageWithLine);
     lblTitle_->SetCaption(recommendation ? course::RecommendationTitle(page)
                                          : course::HelpTitle(page));
+    setWindowTitle(lblTitle_->text());
     lblhelp_->SetCaption(recommendation ? course::RecommendationText(page)
                                         : course::HelpText(page));
     lblhelp_->FitHeight();
