@@ -247,42 +247,41 @@ def screen_from_side(x, top, bottom, foot, depth=9, lean=4):
     return "".join(out)
 
 
-def keyboard_from_side(x, y, width, thick=6):
-    """A keyboard seen from the side; y is the desk's height, the near end is at the right."""
-    out = [path(points_path([(x, y), (x, y - thick - 3), (x + width, y - thick + 1),
-                             (x + width, y)], True), LIGHT_GREY, INK)]
-    count = max(3, int(width // 11))
+def keyboard_from_side(x, desk, width, height):
+    """A keyboard seen from the side on a desk at this height; its keys' tops are height above."""
+    cap = height * 0.45
+    out = [path(f"M{number(x)} {number(desk)} v{number(-height * 0.6)} q0 -2 2 -2 "
+                f"h{number(width - 4)} q2 0 2 2 v{number(height * 0.6)} Z", LIGHT_GREY, INK)]
+    count = max(4, int(width // (cap * 2.2)))
     pitch = (width - 4) / count
-    for i in range(count):
-        rise = 4 * (i + 0.5) / count - 3
-        out.append(box(x + 2 + i * pitch + 1, y - thick - 4 + rise, pitch - 2, 5, 1.5, WHITE, INK,
-                       1.3))
+    out += [box(x + 2 + i * pitch + pitch * 0.08, desk - height, pitch * 0.84, cap, cap * 0.3,
+                WHITE, INK, 1.3) for i in range(count)]
     return "".join(out)
 
 
-def desk_from_side(left, right, top, floor, thick=10):
-    """A desk seen from the side, on a chest of drawers at its far left."""
-    side = mix(WOOD, WOOD_DARK, 0.55)
-    height = floor - top - thick - 6
-    out = [box(left + 12, top + thick - 2, 62, height + 2, 2, side, INK)]
-    for k in range(3):
-        y = top + thick + 5 + k * (height - 4) / 3
-        out.append(box(left + 19, y, 48, (height - 4) / 3 - 6, 3, mix(WOOD, WHITE, 0.9),
-                       mix(INK, WOOD, 0.6), 1.5))
-        out.append(disc(left + 43, y + (height - 4) / 6 - 3, 2.6, INK))
-    out += [box(left + 16, floor - 6, 8, 6, 0, INK), box(left + 62, floor - 6, 8, 6, 0, INK),
-            box(left, top, right - left, thick, 3, WOOD, INK)]
-    return "".join(out)
-
-
-def chair(x, seat, floor, back_top):
-    """A chair seen from the side; x is where its back stands."""
+def desk_from_side(left, right, top, floor, thick=8):
+    """A desk seen from the side, on a column with a foot, so that the legs are free. Its stand
+    and its top, as the legs come between them."""
+    middle = (left + right) / 2
+    reach = (right - left) * 0.19
     dark = mix(WOOD, WOOD_DARK, 0.4)
-    left = x - 94
-    return (box(left + 8, seat + 6, 9, floor - seat - 6, 2, dark, INK)
-            + box(x - 10, seat + 6, 9, floor - seat - 6, 2, dark, INK)
-            + line([(left + 17, seat + 58), (x - 10, seat + 58)], INK, 6)
-            + line([(left + 17, seat + 58), (x - 10, seat + 58)], dark, 2.4)
-            + path(f"M{x - 10} {seat + 4} L{x - 4} {back_top + 4} q0 -6 6 -6 q6 0 6 6 "
-                   f"L{x + 1} {seat + 4} Z", WOOD, INK)
-            + box(left, seat - 2, 98, 11, 5, WOOD, INK))
+    stand = (box(middle - 10, top + thick - 2, 20, floor - top - thick - 4, 2, dark, INK)
+             + box(middle - reach, floor - 9, 2 * reach, 9, 4, dark, INK)
+             + path(f"M{number(middle - 34)} {number(top + thick - 1)} h68 l-14 11 h-40 Z", dark,
+                    INK))
+    return stand, box(left, top, right - left, thick, 3, WOOD, INK)
+
+
+def chair(back, seat, floor, top, depth):
+    """A chair seen from the side, facing left; back is the front of its back rest, and depth is
+    how far the seat reaches before it."""
+    dark = mix(WOOD, WOOD_DARK, 0.4)
+    front = back - depth
+    leg, rail = 9, seat + (floor - seat) * 0.62
+    return "".join((
+        box(front + 10, seat + 6, leg, floor - seat - 6, 2, dark, INK),
+        box(back - 2, seat + 6, leg, floor - seat - 6, 2, dark, INK),
+        box(front + 10 + leg, rail, depth - 12 - leg, 6, 1, dark, INK),
+        path(f"M{number(back - 2)} {number(seat + 4)} L{number(back + 4)} {number(top + 5)} "
+             f"q1 -6 7 -5.5 q6 0.5 5 6.5 L{number(back + 9)} {number(seat + 4)} Z", WOOD, INK),
+        box(front, seat, depth + 12, 11, 5, WOOD, INK)))

@@ -8,21 +8,19 @@
 """
 
 
-from _people import BOY, GIRL, Figure, Pose
-from _scene import (LEAF, WOOD, box, chair, clock, cross, dashed, disc, keyboard_from_side, line,
-                    moved, oval, path, shade, sheet, text_lines, tick, write)
+from _people import (AT_DESK, BOY, GIRL, KEYS, SEAT, STRAIGHT_FINGERS, UPRIGHT_SHOULDER, Figure,
+                     Pose)
+from _scene import (LEAF, WOOD, arc, arrow_along, box, chair, cross, dashed, desk_from_side, disc,
+                    keyboard_from_side, line, moved, oval, path, sector, shade, sheet, text_lines,
+                    tick, write)
 from _style import AMBER, CORAL, GREY, INK, LIGHT_AMBER, LIGHT_GREY, SAND, TEAL, WHITE, points_path
 from hands import along, mix
 
 # Eyes on the text ---------------------------------------------------------------------------
 
-TYPING = Pose(shoulder=(0.04, -1.50), head=(-0.06, -2.33),
-              near_arm=((-0.02, -0.57), (-0.93, -0.60)),
-              far_arm=((0.0, -0.57), (-1.07, -0.60)),
-              near_leg=((-1.52, 0.03), (-1.50, 1.50)), far_leg=((-1.52, 0.03), (-1.68, 1.50)))
-
-# The face of a screen that is turned half towards the child: its left edge is the nearer one.
-SCREEN = ((52.0, 64.0), (212.0, 84.0), (212.0, 230.0), (52.0, 254.0))
+# The face of a screen that is turned towards the child: its left edge is the nearer one.
+SCREEN = ((88.0, 74.0), (178.0, 98.0), (178.0, 232.0), (88.0, 256.0))
+THICK = 15.0
 
 
 def on_screen(u, v):
@@ -31,66 +29,68 @@ def on_screen(u, v):
 
 
 def slanted_screen(desk_top):
-    frame = [on_screen(-0.05, -0.06), on_screen(1.04, -0.07), on_screen(1.04, 1.08),
-             on_screen(-0.05, 1.07)]
-    back = [frame[1], (frame[1][0] + 10, frame[1][1] + 6), (frame[2][0] + 10, frame[2][1] - 8),
-            frame[2]]
-    foot = on_screen(0.62, 1.07)
+    """The screen on its foot; behind its nearer edge its side shows."""
+    frame = [on_screen(-0.07, -0.05), on_screen(1.07, -0.06), on_screen(1.07, 1.07),
+             on_screen(-0.07, 1.06)]
+    (x0, y0), (x3, y3) = frame[0], frame[3]
+    side = [frame[0], (x0 - THICK, y0 + 9), (x3 - THICK, y3 - 9), frame[3]]
+    foot = (on_screen(0.45, 1.07)[0] - 6, on_screen(0.45, 1.07)[1])
     return "".join((
-        oval(foot[0] + 4, desk_top + 3, 52, 9, "#000000", extra='fill-opacity="0.12"'),
-        oval(foot[0], desk_top, 46, 8, LIGHT_GREY, INK),
-        path(f"M{foot[0] - 13} {foot[1] - 6} L{foot[0] - 15} {desk_top} L{foot[0] + 15} {desk_top} "
-             f"L{foot[0] + 13} {foot[1] - 6} Z", LIGHT_GREY, INK),
-        path(points_path(back, True), mix(INK, WHITE, 0.9), INK),
+        oval(foot[0] + 4, desk_top + 3, 50, 7, "#000000", extra='fill-opacity="0.12"'),
+        oval(foot[0], desk_top, 44, 7, LIGHT_GREY, INK),
+        path(f"M{foot[0] - 11} {foot[1] - 8} L{foot[0] - 13} {desk_top} L{foot[0] + 13} {desk_top} "
+             f"L{foot[0] + 11} {foot[1] - 8} Z", LIGHT_GREY, INK),
+        path(points_path(side, True), mix(INK, WHITE, 0.92), INK),
         path(points_path(frame, True), mix(INK, WHITE, 0.75), INK),
         path(points_path(SCREEN, True), WHITE, INK, 1.5)))
 
 
 READ_LINE = 0.34     # how far down the line that is being read stands
-TEXT = ((0.14, 0.10), (READ_LINE, 0.06), (0.52, 0.20), (0.70, 0.10), (0.86, 0.45))
+TEXT = ((0.12, 0.10), (READ_LINE, 0.06), (0.54, 0.20), (0.71, 0.10), (0.87, 0.45))
 
 
 def screen_text():
-    band = [on_screen(0.03, READ_LINE - 0.085), on_screen(0.97, READ_LINE - 0.085),
-            on_screen(0.97, READ_LINE + 0.085), on_screen(0.03, READ_LINE + 0.085)]
+    band = [on_screen(0.04, READ_LINE - 0.085), on_screen(0.96, READ_LINE - 0.085),
+            on_screen(0.96, READ_LINE + 0.085), on_screen(0.04, READ_LINE + 0.085)]
     out = [path(points_path(band, True), LIGHT_AMBER, AMBER, 1.5)]
     for height, start in TEXT:
         colour = INK if height == READ_LINE else mix(TEAL, WHITE, 0.55)
-        words = [(0.92, 0.74), (0.69, 0.56), (0.51, 0.33), (0.28, 0.07)]
-        for right, left in words:
+        for right, left in ((0.89, 0.64), (0.53, 0.36), (0.25, 0.11)):
             if right > start + 0.05:
                 out.append(line([on_screen(right, height), on_screen(max(left, start), height)],
-                                colour, 7))
+                                colour, 6.5))
     return "".join(out)
 
 
 def eyes_on_the_text():
-    unit = 96.0
-    child = Figure(TYPING, (492.0, 352.0), unit, BOY, "boy")
-    eye = child.at((-0.36, -2.31))
-    keys = child.at((-1.53, -0.50))
-    desk_top = 352 - 0.36 * unit
-    beam = [eye, on_screen(0.98, READ_LINE - 0.09), on_screen(0.98, READ_LINE + 0.09)]
-    down = [along(eye, keys, 0.15), along(eye, keys, 0.88)]
-    middle = along(*down, 0.5)
-    scene = (chair(534, 392, 470, 178), child.back(),
-             box(-60, desk_top, 484, 14, 4, WOOD, INK),
-             box(-60, desk_top + 14, 454, 100, 0, mix(WOOD, WHITE, 0.55), INK),
-             slanted_screen(desk_top), screen_text(),
-             path(points_path(beam, True), AMBER, extra='fill-opacity="0.45"'),
-             line([eye, on_screen(0.99, READ_LINE)], mix(AMBER, INK, 0.8), 2.4,
+    unit, hip, floor = 92.0, (486.0, 322.0), 322.0 + 1.71 * 92
+    child = Figure(AT_DESK, hip, unit, BOY, "boy")
+    eye = child.eye()
+    desk_top = hip[1] + KEYS * unit + 14
+    keys = child.at((-1.48, KEYS - 0.16))
+    beam = [eye, on_screen(0.96, READ_LINE - 0.085), on_screen(0.96, READ_LINE + 0.085)]
+    down = [along(eye, keys, 0.01), along(eye, keys, 0.95)]
+    middle = along(*down, 0.52)
+    stand, top = desk_from_side(44, child.at((-0.72, 0))[0], desk_top, floor, 10)
+    scene = (chair(child.at((0.40, 0))[0], hip[1] + SEAT * unit - 3, floor, 148, 1.42 * unit),
+             stand, child.back(), top, slanted_screen(desk_top), screen_text(),
+             keyboard_from_side(child.at((-1.9, 0))[0], desk_top, 98, 14), child.front(),
+             path(points_path(beam, True), AMBER, extra='fill-opacity="0.4"'),
+             line([eye, on_screen(0.97, READ_LINE)], mix(AMBER, INK, 0.8), 2.4,
                   'stroke-dasharray="8 7"'),
-             keyboard_from_side(286, desk_top, 118, 8), child.front(),
-             dashed(down, CORAL, 2.6, "3 7"), cross(middle[0], middle[1], 13),
-             tick(*along(eye, on_screen(1.06, READ_LINE), 0.5), 17))
-    return sheet(640, 420, moved(22, 0, "".join(scene)))
+             dashed(down, CORAL, 2.8, "3 7"), cross(middle[0], middle[1], 14),
+             tick(*along(eye, on_screen(1.06, READ_LINE), 0.55), 17))
+    return sheet(640, 420, "".join(scene))
 
 
 # A rest for the eyes ------------------------------------------------------------------------
 
-RESTING = Pose(shoulder=(0.06, -1.48), head=(-0.02, -2.31),
-               near_arm=((0.02, -0.52), (-0.70, -0.12)), far_arm=((0.04, -0.52), (-0.60, -0.12)),
-               near_leg=((-1.52, 0.03), (-1.50, 1.50)), far_leg=((-1.52, 0.03), (-1.68, 1.50)))
+# The hands lie in the lap.
+RESTING = Pose(shoulder=UPRIGHT_SHOULDER, head=(-0.05, -2.33),
+               near_arm=((0.04, -0.64), (-0.66, -0.40)), far_arm=((0.04, -0.64), (-0.74, -0.40)),
+               near_leg=((-1.46, 0.10), (-1.42, 1.50)), far_leg=((-1.48, 0.10), (-1.60, 1.50)),
+               hands=(-4.0, -4.0), fingers=STRAIGHT_FINGERS)
+MINUTES = 20
 
 
 def tree(x, y, size):
@@ -133,27 +133,47 @@ def window(x, y, width, height):
 def left_screen(x, desk_top):
     """The screen that the child has turned away from."""
     return moved(x, desk_top, "".join((
-        box(-70, 0, 160, 12, 3, WOOD, INK), box(-60, 12, 150, 80, 0, mix(WOOD, WHITE, 0.55), INK),
+        box(-58, 0, 150, 10, 3, WOOD, INK), box(-44, 10, 11, 120, 2, mix(WOOD, INK, 0.85), INK),
         path("M-8 -30 L-10 -5 L10 -5 L8 -30 Z", LIGHT_GREY, INK),
         box(-24, -6, 48, 6, 3, LIGHT_GREY, INK),
-        box(-46, -98, 92, 70, 5, mix(INK, WHITE, 0.75), INK),
-        box(-39, -91, 78, 56, 2, LIGHT_GREY, INK, 1.5),
-        text_lines(-30, -80, 60, 4, 11.5, GREY, 4))))
+        box(-44, -94, 88, 66, 5, mix(INK, WHITE, 0.75), INK),
+        box(-37, -87, 74, 52, 2, LIGHT_GREY, INK, 1.5),
+        text_lines(-29, -77, 58, 4, 11, GREY, 4))))
+
+
+def minutes_of_rest(x, y, radius):
+    """A clock whose coloured part is the time to the next rest; both ends are marked."""
+    end = -90 + MINUTES * 6
+    ends = [arc(x, y, radius * 0.72, degrees, degrees, 1)[0] for degrees in (-90, end)]
+    out = [disc(x + 2, y + 3, radius, "#000000", extra='fill-opacity="0.12"'),
+           disc(x, y, radius, WHITE, INK, 2.4),
+           path(sector(x, y, radius - 1.2, -90, end), AMBER, mix(AMBER, INK, 0.7), 1.4)]
+    for k in range(12):
+        a, b = (arc(x, y, radius * r, k * 30, k * 30, 1)[0] for r in (0.90, 0.78))
+        out.append(line([a, b], INK, 2.2 if k % 3 == 0 else 1.4))
+    back = arc(x, y, radius * 0.5, -84, end - 14)
+    out += [arrow_along(back, INK, 2.2, 6), line([(x, y), ends[1]], INK, 3),
+            line([(x, y), ends[0]], mix(INK, WHITE, 0.45), 1.8), disc(x, y, 3.2, INK)]
+    return "".join(out)
 
 
 def rest_for_the_eyes():
-    child = Figure(RESTING, (290.0, 392.0), 110.0, GIRL, "girl")
-    eye = child.at((-0.36, -2.29))
-    foot = (98.0, 194.0)
-    size = 62
+    unit, hip = 92.0, (306.0, 296.0)
+    child = Figure(RESTING, hip, unit, GIRL, "girl")
+    eye = child.eye()
+    foot = (92.0, 196.0)
+    size = 66
+    # As wide as the tree, whose crown hides its end.
+    beam = [eye, (foot[0] - size * 0.02, foot[1] - size * 0.99),
+            (foot[0] - size * 0.02, foot[1] - size * 0.03)]
     return sheet(480, 340, "".join((
-        left_screen(416, 262),
-        clock(416, 70, 32, 20),
-        window(30, 40, 150, 206),
-        path(points_path([eye, (foot[0], foot[1] - size), (foot[0], foot[1])], True), AMBER,
-             extra='fill-opacity="0.4"'),
-        tree(*foot, size),
-        child.drawing())))
+        left_screen(424, 252),
+        minutes_of_rest(414, 66, 40),
+        window(30, 38, 150, 196),
+        chair(child.at((0.40, 0))[0], hip[1] + SEAT * unit - 3, 460, 128, 1.42 * unit),
+        child.drawing(),
+        path(points_path(beam, True), AMBER, extra='fill-opacity="0.36"'),
+        tree(*foot, size))))
 
 
 if __name__ == "__main__":

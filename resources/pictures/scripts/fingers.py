@@ -348,7 +348,7 @@ def shift_sign(x, y, size, fill=WHITE, edge=INK, width=1.6):
 
 
 def held_meanwhile(x, y):
-    """The two steps below one another's time, from the right: Shift is held under both."""
+    """The two steps in time, from the right: Shift is held under both."""
     little, index = FINGER_COLOURS["little"], FINGER_COLOURS["index"]
     deep = mix(little, INK, 0.6)
     return (f'<g transform="translate({x} {y})">'

@@ -8,25 +8,15 @@
 """
 
 import math
-from dataclasses import replace
 
-from _people import BOY, GIRL, Figure, Pose, hand
+from _people import AT_DESK, BOY, ELBOW_HEIGHT, GIRL, KEYS, SEAT, Figure, hand
 from _scene import (GREEN, WOOD, box, chair, cross, dashed, desk_from_side, disc, joined,
-                    keyboard_from_side, line, moved, oval, panel, path, screen_from_side, sector,
-                    shade, sheet, tapered, tick, write)
+                    keyboard_from_side, line, oval, panel, path, screen_from_side, sector, shade,
+                    sheet, tapered, tick, write)
 from _style import AMBER, CORAL, GREY, INK, LIGHT_AMBER, LIGHT_GREY, SAND, TEAL, WHITE
 from hands import along, mix
 
 # How to sit ---------------------------------------------------------------------------------
-
-UNIT = 70.0
-FLOOR = 370.0
-HIP = (412.0, 250.0)
-
-UPRIGHT = Pose(shoulder=(0.04, -1.50), head=(-0.04, -2.33),
-               near_arm=((-0.02, -0.56), (-0.92, -0.60)),
-               far_arm=((0.0, -0.56), (-1.06, -0.60)),
-               near_leg=((-1.52, 0.03), (-1.50, 1.50)), far_leg=((-1.52, 0.03), (-1.68, 1.50)))
 
 
 def floor_strip(width, floor, height):
@@ -40,75 +30,77 @@ def right_angle(x, y, start, radius=24):
     return path(sector(x, y, radius, start, start + 90), LIGHT_AMBER, mix(AMBER, INK, 0.7), 2)
 
 
-def posture_marks(child, screen_x):
-    """What is right: the eyes level with the screen's top, the back straight, right angles at
-    the elbow and the knee, the feet flat."""
-    eye = child.at((-0.33, -2.305))
-    elbow, knee = child.at((-0.17, -0.72)), child.at((-1.27, 0.29))
-    back, feet = child.at((1.0, -1.2)), child.at((-1.75, 0))
+def posture_marks(child, screen_x, floor):
+    """What is right: the eyes level with the screen's top, the back at the chair's back, right
+    angles at the elbow and the knee, the feet flat."""
+    eye = child.eye()
+    elbow, knee = child.at((-0.18, -0.78)), child.at((-1.23, 0.32))
+    back, feet = child.at((0.42, -0.75)), child.at((-1.70, 0))
     return "".join((
-        dashed([(eye[0] - 12, eye[1]), (screen_x + 4, eye[1])], TEAL, 2.5, "7 7"),
-        tick((eye[0] + screen_x) / 2, eye[1], 12),
-        line([(back[0], HIP[1] + 22), (back[0], back[1] - 38)], GREEN, 4),
-        tick(back[0], back[1] + 16, 12),
-        line([(feet[0] - 46, FLOOR + 7), (feet[0] + 58, FLOOR + 7)], GREEN, 4),
-        tick(feet[0] + 6, FLOOR + 10, 12),
+        dashed([(eye[0] - 4, eye[1]), (screen_x + 5, eye[1])], TEAL, 2.5, "7 7"),
+        tick((eye[0] + screen_x) / 2 - 6, eye[1], 12),
+        tick(back[0] + 26, back[1], 12),
+        tick(feet[0], floor + 14, 12),
         right_angle(elbow[0], elbow[1], 180), right_angle(knee[0], knee[1], 0, 20)))
 
 
 def how_to_sit():
-    child = Figure(UPRIGHT, HIP, UNIT, BOY, "boy")
-    eye = child.at((-0.31, -2.305))
-    desk_top = HIP[1] - 0.365 * UNIT
-    screen_x = 196.0
-    scene = [oval(280, FLOOR + 8, 200, 8, "#000000", extra='fill-opacity="0.10"'),
-             chair(447, 280, FLOOR, 128), child.back(),
-             desk_from_side(98, 348, desk_top, FLOOR, 8),
-             screen_from_side(screen_x, eye[1], eye[1] + 104, desk_top),
-             keyboard_from_side(250, desk_top, 74, 5),
-             child.front(), posture_marks(child, screen_x)]
-    return sheet(600, 400, floor_strip(600, FLOOR, 400) + moved(16, 0, "".join(scene)))
+    unit, hip, floor = 70.0, (408.0, 250.0), 369.0
+    child = Figure(AT_DESK, hip, unit, BOY, "boy")
+    keys = hip[1] + KEYS * unit
+    desk_top = keys + 10
+    eye = child.eye()
+    screen_x = 190.0
+    stand, top = desk_from_side(106, child.at((-0.72, 0))[0], desk_top, floor, 7)
+    scene = [floor_strip(600, floor, 400),
+             oval(270, floor + 6, 210, 7, "#000000", extra='fill-opacity="0.10"'),
+             chair(child.at((0.40, 0))[0], hip[1] + SEAT * unit - 2, floor, 118, 1.42 * unit),
+             stand, child.back(), top,
+             screen_from_side(screen_x, eye[1] - 4, eye[1] + 104, desk_top),
+             keyboard_from_side(child.at((-1.86, 0))[0], desk_top, 66, 10),
+             child.front(), posture_marks(child, screen_x, floor)]
+    return sheet(600, 400, "".join(scene))
 
 
 # Arms and wrists ----------------------------------------------------------------------------
 
-REACHING = replace(UPRIGHT, near_arm=((0.0, -0.57), (-0.93, -0.575)),
-                   far_arm=((0.0, -0.56), (-1.06, -0.575)))
-
 
 def level_arm():
     """The child at the desk, large: the forearm level, the hand in line with it."""
-    unit = 108.0
-    child = Figure(REACHING, (262.0, 322.0), unit, GIRL, "girl")
-    elbow, wrist = (child.at(j) for j in REACHING.near_arm)
-    corner = child.at((-0.165, -0.725))
-    desk_top = wrist[1] + 0.245 * unit
-    tip = wrist[0] - 0.78 * unit
+    unit, hip = 95.0, (246.0, 292.0)
+    child = Figure(AT_DESK, hip, unit, GIRL, "girl")
+    elbow, wrist = (child.at(j) for j in AT_DESK.near_arm)
+    corner = child.at((-0.175, ELBOW_HEIGHT - 0.125))
+    keys = hip[1] + KEYS * unit
+    desk_top = keys + 15
+    tip = wrist[0] - 0.62 * unit
+    ends = [(elbow[0] + 2, elbow[1]), (tip, wrist[1])]
     return "".join((
+        chair(child.at((0.40, 0))[0], hip[1] + SEAT * unit - 3, 420, 130, 1.42 * unit),
         child.back(),
-        box(-20, desk_top, 186, 14, 4, WOOD, INK),
-        keyboard_from_side(26, desk_top, 126, 8),
+        box(-20, desk_top, child.at((-0.70, 0))[0] + 20, 11, 4, WOOD, INK),
+        keyboard_from_side(child.at((-1.90, 0))[0], desk_top, 102, 15),
         child.front(),
-        right_angle(corner[0], corner[1], 180, 34),
-        dashed([(elbow[0] - 4, elbow[1]), (tip, wrist[1])], WHITE, 5, "9 8"),
-        dashed([(elbow[0] - 4, elbow[1]), (tip, wrist[1])], GREEN, 3, "9 8"),
+        right_angle(corner[0], corner[1], 180, 32),
+        dashed(ends, WHITE, 5, "9 8"), dashed(ends, GREEN, 3, "9 8"),
         tick(32, 32, 15)))
 
 
-def bent_wrist(elbow, wrist, turn, desk_top, key):
-    """A forearm with its hand at an angle to it, marked as wrong."""
-    unit = 92.0
+def bent_wrist(elbow, wrist, turn, keys, left, key):
+    """A forearm with its hand at an angle to it, marked as wrong; the keyboard with its keys'
+    tops at a height begins at left."""
+    unit = 84.0
     lean = math.degrees(math.atan2(elbow[1] - wrist[1], elbow[0] - wrist[0]))
     sleeve = tapered((elbow, along(wrist, elbow, 0.15)), (0.17 * unit, 0.13 * unit), True)
-    far = 96 / math.hypot(elbow[0] - wrist[0], elbow[1] - wrist[1])
+    far = 78 / math.hypot(elbow[0] - wrist[0], elbow[1] - wrist[1])
     on = (wrist[0] - (elbow[0] - wrist[0]) * far, wrist[1] - (elbow[1] - wrist[1]) * far)
     a = math.radians(180 + lean + turn)
-    hand_end = (wrist[0] + 96 * math.cos(a), wrist[1] + 96 * math.sin(a))
+    hand_end = (wrist[0] + 70 * math.cos(a), wrist[1] + 70 * math.sin(a))
     return "".join((
         shade(key + "fill", (0, 20, 170, 150), mix(GIRL.top, WHITE, 0.86),
               mix(GIRL.top, INK, 0.9)),
-        box(-20, desk_top, 134, 10, 3, WOOD, INK),
-        keyboard_from_side(10, desk_top, 78, 6),
+        box(-20, keys + 13, 220, 10, 3, WOOD, INK),
+        keyboard_from_side(left, keys + 13, 84, 13),
         hand(wrist, unit, lean + turn, bend=turn),
         joined([sleeve], f"url(#{key}fill)", INK),
         dashed([elbow, wrist], CORAL, 2.4, "6 6"),
@@ -119,8 +111,8 @@ def bent_wrist(elbow, wrist, turn, desk_top, key):
 
 
 def arms_and_wrists():
-    low = bent_wrist((200, 122), (104, 118), 32, 110, "low")
-    high = bent_wrist((200, 72), (96, 58), -42, 110, "high")
+    low = bent_wrist((206, 95), (112, 98), 20, 92, 8, "low")
+    high = bent_wrist((206, 74), (108, 49), -46, 93, 14, "high")
     return sheet(560, 360,
                  panel(196, 16, 348, 328, level_arm(), "level")
                  + panel(16, 16, 166, 157, low, "lowpanel", LIGHT_GREY, GREY)
