@@ -3,6 +3,7 @@
 #include "keyboard/KeyCodes.h"
 #include "session/Keystrokes.h"
 #include "session/Loading.h"
+#include "session/Pictures.h"
 #include "session/Pointer.h"
 #include "session/Review.h"
 #include "session/Selection.h"
@@ -26,6 +27,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace keyfluent::shell
 {
@@ -109,6 +112,10 @@ void frmLesson::BuildFields()
         view->setCursor(QCursor(pointer, 1, 1));
         view->installEventFilter(this);
     }
+    const int height =
+        std::min(PixelsOf(lesson_.txtOrigin.box).height(), PixelsOf(lesson_.txtTest.box).height());
+    txtOrigin_->FitHeight(height);
+    txtTest_->FitHeight(height);
     connect(txtOrigin_, &RowView::pressed, this, [this] { PressField(FieldName::Origin); });
     connect(txtTest_, &RowView::pressed, this, [this] { PressField(FieldName::Test); });
     connect(txtOrigin_, &RowView::clicked, this, [this] {
@@ -193,6 +200,11 @@ void frmLesson::BuildPictures()
     connect(imgRest_, &ImageControl::clicked, this, tell(session::ClickRest));
     connect(imgResume_, &ImageControl::clicked, this, tell(session::ClickResume));
     connect(imgStop_, &ImageControl::pressed, this, tell(session::PressStop));
+    // Decoded now, so that no key waits for a hand's picture.
+    constexpr int handPictures = 12;
+    for (int i = 0; i < handPictures; ++i) {
+        LoadBitmap(session::leftHandAtRest + lesson_.handPictureOffset + i, devicePixelRatioF());
+    }
     imgLeftHand_ = AddImage("imgLeftHand", PixelsOf(lesson_.imgLeftHand.box).topLeft(),
                             lesson_.imgLeftHand.bitmap);
     imgRightHand_ = AddImage("imgRightHand", PixelsOf(lesson_.imgRightHand.box).topLeft(),
@@ -319,8 +331,10 @@ FieldEditor* frmLesson::MakeEditor(const char* name, session::TextField& field)
             [this, &field](int position, int removed, const std::u16string& inserted) {
                 session::EditField(field, position, removed, inserted);
             });
-    connect(editor, &FieldEditor::selected, this,
-            [&field](int start, int length) { field.Select(start, length); });
+    connect(editor, &FieldEditor::selected, this, [this, &field](int start, int length) {
+        field.Select(start, length);
+        txtOrigin_->BringIntoView(start); // the model scrolls with the copy
+    });
     if (&field == &lesson_.txtTest) {
         editor->SetReturn(FieldEditor::Return::IsReported);
         connect(editor, &FieldEditor::returnPressed, this, [this] {
@@ -354,11 +368,12 @@ void frmLesson::PaintExtra(QPainter& painter)
 {
     painter.fillRect(0, ruleUnderTitle, width(), 1, Qt::black);
     if (lesson_.shape1.visible) {
-        painter.setPen(QPen(QColor(0x6B, 0x7F, 0x8C), 1));
-        painter.setBrush(Qt::NoBrush);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawRoundedRect(QRectF(PixelsOf(lesson_.shape1.box)).adjusted(0.5, 0.5, -0.5, -0.5),
-                                6, 6);
+        const QColor frame(0x6B, 0x7F, 0x8C);
+        const QRect place = PixelsOf(lesson_.shape1.box);
+        painter.fillRect(place.left(), place.top(), place.width(), 1, frame);
+        painter.fillRect(place.left(), place.bottom(), place.width(), 1, frame);
+        painter.fillRect(place.left(), place.top(), 1, place.height(), frame);
+        painter.fillRect(place.right(), place.top(), 1, place.height(), frame);
     } else {
         painter.fillRect(0, ruleWithoutCounter, width(), 1, Qt::black);
     }

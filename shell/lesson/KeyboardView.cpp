@@ -23,7 +23,10 @@ using session::CapArray;
 constexpr int capMargin = 2; // pixels on either side of a cap's text
 constexpr double radius = 3.5;
 
-QRect PixelsOf(const Box& box) { return PixelRect(box.left, box.top, box.width, box.height); }
+QRect PixelsOf(const Box& box)
+{
+    return PixelRect(box.left, box.top, box.width, box.height);
+}
 
 QFont DesignedFont(std::size_t cap, const QString& text)
 {
@@ -120,36 +123,55 @@ QFont KeyboardView::FittingFont(std::size_t cap, const QString& text) const
     return font;
 }
 
-void KeyboardView::PaintCap(QPainter& painter, std::size_t cap) const
+QPixmap KeyboardView::DrawFace(std::size_t cap) const
 {
     static const QColor edge(0x6B, 0x7F, 0x8C);
-    const QRectF place = QRectF(CapRect(cap)).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QSize size = CapRect(cap).size();
+    QPixmap face(size * facesRatio_);
+    face.setDevicePixelRatio(facesRatio_);
+    face.fill(Qt::transparent);
+    QPainter painter(&face);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF place = QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setPen(QPen(edge, 1));
     painter.setBrush(QColor::fromRgb(RgbOf(shown_->backColour[cap])));
     painter.drawRoundedRect(place, radius, radius);
     const QString text = ShownText(*shown_, cap);
-    if (text.isEmpty()) {
-        return;
-    }
     painter.setPen(QColor::fromRgb(RgbOf(shown_->foreColour[cap])));
     painter.setFont(FittingFont(cap, text));
     QTextOption option(Qt::AlignCenter);
     option.setTextDirection(shown_->rightToLeft[cap] ? Qt::RightToLeft : Qt::LeftToRight);
     option.setWrapMode(QTextOption::NoWrap);
     painter.drawText(place, text, option);
+    return face;
+}
+
+const QPixmap& KeyboardView::FaceOf(std::size_t cap)
+{
+    if (facesRatio_ != devicePixelRatioF()) {
+        facesRatio_ = devicePixelRatioF();
+        faces_.clear();
+    }
+    const Look look(cap, shown_->text[cap].data(), shown_->foreColour[cap], shown_->backColour[cap],
+                    shown_->rightToLeft[cap]);
+    const auto found = faces_.find(look);
+    return found != faces_.end() ? found->second
+                                 : faces_.emplace(look, DrawFace(cap)).first->second;
 }
 
 void KeyboardView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.save();
-    painter.translate(-pos());
-    PaintStripes(painter, event->region().boundingRect().translated(pos()));
-    painter.restore();
-    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect damaged = event->region().boundingRect();
+    for (const QRect& part : event->region()) {
+        painter.translate(-pos());
+        PaintStripes(painter, part.translated(pos()));
+        painter.translate(pos());
+    }
     for (std::size_t cap = 0; shown_.has_value() && cap < shown_->text.size(); ++cap) {
-        if (event->region().intersects(CapRect(cap))) {
-            PaintCap(painter, cap);
+        const QRect place = CapRect(cap);
+        if (damaged.intersects(place) && event->region().intersects(place)) {
+            painter.drawPixmap(place.topLeft(), FaceOf(cap));
         }
     }
 }

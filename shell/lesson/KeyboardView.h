@@ -4,9 +4,14 @@
 #include "session/Controls.h"
 
 #include <QFont>
+#include <QPixmap>
 #include <QWidget>
 
+#include <cstddef>
+#include <cstdint>
+#include <map>
 #include <optional>
+#include <tuple>
 
 namespace keyfluent::shell
 {
@@ -31,10 +36,17 @@ protected:
 private:
     void Place(const session::CapArray& caps);
     QRect CapRect(std::size_t cap) const; // in this widget
-    void PaintCap(QPainter& painter, std::size_t cap) const;
+    const QPixmap& FaceOf(std::size_t cap);
+    QPixmap DrawFace(std::size_t cap) const;
     QFont FittingFont(std::size_t cap, const QString& text) const;
 
+    // What decides how a cap looks. Its texts are constants, so their addresses tell them apart.
+    using Look = std::tuple<std::size_t, const char16_t*, std::int32_t, std::int32_t, bool>;
+
     std::optional<session::CapArray> shown_;
+    // Each look is drawn once: a key changes few caps, and these between few looks.
+    std::map<Look, QPixmap> faces_;
+    qreal facesRatio_ = 0; // of the screen for which they were drawn
 };
 
 } // namespace keyfluent::shell
