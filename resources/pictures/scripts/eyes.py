@@ -8,8 +8,8 @@
 """
 
 
-from _people import (AT_DESK, BOY, GIRL, KEYS, SEAT, STRAIGHT_FINGERS, UPRIGHT_SHOULDER, Figure,
-                     Pose)
+from _people import (AT_DESK, BOY, FLOOR, GIRL, KEYS, SEAT, STRAIGHT_FINGERS, UPRIGHT_SHOULDER,
+                     Figure, Pose)
 from _scene import (LEAF, WOOD, arc, arrow_along, box, chair, cross, dashed, desk_from_side, disc,
                     keyboard_from_side, line, moved, oval, path, sector, shade, sheet, text_lines,
                     tick, write)
@@ -63,7 +63,8 @@ def screen_text():
 
 
 def eyes_on_the_text():
-    unit, hip, floor = 92.0, (486.0, 322.0), 322.0 + 1.71 * 92
+    unit, hip = 92.0, (486.0, 322.0)
+    floor = hip[1] + FLOOR * unit
     child = Figure(AT_DESK, hip, unit, BOY, "boy")
     eye = child.eye()
     desk_top = hip[1] + KEYS * unit + 14

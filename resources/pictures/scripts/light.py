@@ -6,11 +6,11 @@
 151  the screen at arm's length, the window at the side, no glare
 """
 
-from _people import BOY, SEAT, STRAIGHT_FINGERS, UPRIGHT_SHOULDER, Figure, Pose
-from _scene import (LEAF, WOOD, arrow_along, box, chair, cross, desk_from_side, disc,
+from _people import BOY, FLOOR, SEAT, STRAIGHT_FINGERS, UPRIGHT_SHOULDER, Figure, Pose
+from _scene import (LEAF, arrow_along, box, chair, cross, desk_from_side, disc,
                     keyboard_from_side, line, moved, oval, panel, path, screen_from_side, shade,
                     sheet, text_lines, tick, write)
-from _style import (AMBER, CORAL, GREY, INK, LIGHT_AMBER, LIGHT_GREY, PALE_TEAL, SAND, TEAL, WHITE,
+from _style import (AMBER, CORAL, GREY, INK, LIGHT_GREY, PALE_TEAL, SAND, TEAL, WHITE,
                     points_path)
 from hands import mix
 
@@ -57,7 +57,7 @@ def lamp(x, desk_top):
 
 def arms_length():
     unit, floor = 64.0, 336.0
-    child = Figure(STRETCHED, (424.0, floor - 1.71 * unit), unit, BOY, "boy")
+    child = Figure(STRETCHED, (424.0, floor - FLOOR * unit), unit, BOY, "boy")
     seat = child.at((0, SEAT))[1]
     shoulder = child.at(UPRIGHT_SHOULDER)
     desk_top = child.at((0, -0.36))[1]

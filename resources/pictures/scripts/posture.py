@@ -9,7 +9,7 @@
 
 import math
 
-from _people import AT_DESK, BOY, ELBOW_HEIGHT, GIRL, KEYS, SEAT, Figure, hand
+from _people import AT_DESK, BOY, ELBOW_HEIGHT, FLOOR, GIRL, KEYS, SEAT, Figure, hand
 from _scene import (GREEN, WOOD, box, chair, cross, dashed, desk_from_side, disc, joined,
                     keyboard_from_side, line, oval, panel, path, screen_from_side, sector, shade,
                     sheet, tapered, tick, write)
@@ -45,7 +45,8 @@ def posture_marks(child, screen_x, floor):
 
 
 def how_to_sit():
-    unit, hip, floor = 70.0, (408.0, 250.0), 369.0
+    unit, hip = 70.0, (408.0, 249.3)
+    floor = hip[1] + FLOOR * unit
     child = Figure(AT_DESK, hip, unit, BOY, "boy")
     keys = hip[1] + KEYS * unit
     desk_top = keys + 10

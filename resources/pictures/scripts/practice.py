@@ -145,9 +145,9 @@ def falling(x, y, radius, start, end):
 
 
 def in_one_night():
-    stars = "".join(path(f"M{x} {y - 5} L{x + 1.4} {y - 1.4} L{x + 5} {y} L{x + 1.4} {y + 1.4} "
-                         f"L{x} {y + 5} L{x - 1.4} {y + 1.4} L{x - 5} {y} L{x - 1.4} {y - 1.4} Z",
-                         WHITE) for x, y in ((30, 120), (132, 36), (172, 100), (44, 200), (110, 118)))
+    twinkle = "M0 -5 L1.4 -1.4 L5 0 L1.4 1.4 L0 5 L-1.4 1.4 L-5 0 L-1.4 -1.4 Z"
+    stars = "".join(moved(x, y, path(twinkle, WHITE)) for x, y in
+                    ((30, 120), (132, 36), (172, 100), (44, 200), (110, 118)))
     moon = "M70 34 A30 30 0 1 0 104 76 A24 24 0 0 1 70 34 Z"
     heap = [block(52, GROUND, 0), block(55, GROUND - 39, 1), block(62, GROUND - 78, 4),
             block(75, GROUND - 116, 10), block(96, GROUND - 152, 24),

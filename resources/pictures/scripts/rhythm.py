@@ -15,7 +15,7 @@ from hands import mix
 
 def metronome():
     """A metronome of 96 x 124 pixels about its foot's middle; its pendulum is at the left."""
-    out = [oval(4, 2, 50, 6, "#000000", extra='fill-opacity="0.14"'),
+    out = [oval(2, 1.5, 45, 4.5, "#000000", extra='fill-opacity="0.14"'),
            shade("wood", (-40, -120, 44, 0), mix(WOOD, WHITE, 0.85), mix(WOOD, WOOD_DARK, 0.5)),
            path("M-17 -118 Q0 -126 17 -118 L43 -6 H-43 Z", "url(#wood)", INK),
            path("M-11 -106 H11 L27 -34 H-27 Z", mix(WOOD, WHITE, 0.35), INK, 1.6)]
@@ -58,7 +58,7 @@ def even():
     beats = "".join(line([(x, 112), (x, 120)], TEAL, 2.4) for x in places)
     return (strokes(places, [44] * 6, 78, (LIGHT_AMBER, INK, TEAL, AMBER))
             + line([(16, 120), (330, 120)], LIGHT_TEAL, 2.4) + beats
-            + moved(378, 127, metronome(), 0.94) + tick(24, 24, 12))
+            + moved(376, 126, metronome(), 0.94) + tick(24, 24, 12))
 
 
 def uneven():
@@ -67,7 +67,6 @@ def uneven():
     beats = "".join(line([(x, 112), (x, 120)], GREY, 2.4) for x in places)
     return (strokes(places, heights, 78, (WHITE, GREY, mix(GREY, WHITE, 0.9), LIGHT_GREY))
             + line([(16, 120), (412, 120)], mix(GREY, WHITE, 0.6), 2.4) + beats
-            + line([(40, 126), (396, 22)], CORAL, 4, 'stroke-opacity="0.55"')
             + cross(24, 24, 12))
 
 

@@ -9,7 +9,7 @@
 import math
 
 import hands
-from _scene import (arc, arrow_along, capsule, curved, joined, moved, panel, path, shade, sheet,
+from _scene import (arc, arrow_along, capsule, joined, moved, oval, panel, path, shade, sheet,
                     write)
 from _style import CORAL, INK, LIGHT_TEAL, TEAL
 from fingers import counter
@@ -47,7 +47,7 @@ def underlaid(shape):
             + path(shape, "url(#skin)", SKIN_OUTLINE, 2))
 
 
-def open_hand(turns):
+def open_hand(turns, sleeved=True):
     fingers = tuple(turned(f, turns[f.name]) for f in FINGERS)
     shape = hands.smooth(hands.outline(fingers), closed=True)
     palm = ("M84.5 84 C74 86 66 96 70 116 C71 122 69 128 66 132",
@@ -55,26 +55,30 @@ def open_hand(turns):
     return "".join((
         underlaid(shape),
         "".join(path(data, "none", FOLD, 1.4) for data in palm),
-        "".join(joint_folds(f) for f in fingers), sleeve()))
+        "".join(joint_folds(f) for f in fingers), sleeve() if sleeved else ""))
 
 
 def fist():
-    """A closed hand: four fingers folded on the palm, the thumb across them."""
-    palm = ("M33 78 C30 94 36 112 44 124 C46 132 46 140 46 156 L86 156 C85 142 87 132 92 120 "
-            "C98 106 100 92 98 76 C90 62 44 62 33 78 Z")
-    rolls = ((39.0, 56.0, 7.6), (54.0, 49.5, 8.4), (70.5, 47.0, 8.8), (87.0, 50.5, 8.6))
+    """A closed hand: four fingers folded on the palm with their tips tucked in, the thumb across
+    them."""
+    palm = ("M32.5 72 C30 92 36 108 44 122 C46 132 46 142 46 156 L86 156 C85.5 144 88 132 93 120 "
+            "C99 108 101 96 97 80 C88 66 44 66 32.5 72 Z")
+    rolls = ((41.0, 57.0, 78.0, 7.6), (55.0, 51.0, 79.5, 8.2), (70.4, 49.0, 83.0, 8.6),
+             (86.0, 52.0, 82.0, 8.4))
     out = [underlaid(palm)]
-    for x, top, r in rolls:
-        out.append(joined([capsule((x, top), r, (x + 1, 84), r * 0.92)], "url(#skin)",
-                          SKIN_OUTLINE))
-        out.append(path(f"M{x - r * 0.5} {top + 9} q{r * 0.5} 2.5 {r} 0", "none", FOLD, 1.3))
-    thumb = curved(((85.5, 119), (93, 97), (85, 86.5), (62, 86)), (8.0, 10.8, 9.0, 7.6))
-    root = capsule((83, 117), 8.5, (88.5, 101), 10.0)
-    nail = "M58.5 81.5 q-5 4 0 8.5 l7 -0.4 q3 -4 0 -7.8 Z"
+    for x, top, end, r in rolls:
+        out += [joined([capsule((x, top), r, (x + 0.6, end), r * 0.9)], "url(#skin)",
+                       SKIN_OUTLINE),
+                path(f"M{x - r * 0.55} {top + 11} q{r * 0.55} 2.6 {r * 1.1} 0", "none", FOLD, 1.3)]
+        if x < 60:      # the thumb covers the other two nails
+            out.append(oval(x + 0.6, end - 1, r * 0.46, r * 0.56, hands.NAIL, SKIN_OUTLINE, 1))
+    thumb = ("M93.5 119 C101 106 103 92 94 83.5 C85 77.5 70 79.5 59.5 81 C52 82.5 52 92.5 59.5 94 "
+             "C67 95 73.5 95 79.5 97 C80.5 104 78 111 72 117.5")
+    nail = "M56.2 84.5 q-3.4 3.4 0.6 7 l6.6 0.4 q3 -3.8 0.2 -8.2 Z"
     return "".join(out) + "".join((
-        joined([thumb], "url(#skin)", SKIN_OUTLINE), path(root, "url(#skin)"),
+        path(thumb + " Z", "url(#skin)"), path(thumb, "none", SKIN_OUTLINE, 2),
         path(nail, hands.NAIL, SKIN_OUTLINE, 1),
-        path("M82 81.5 q2.5 4 0.5 9 M50 108 C57 112 66 112 72 107", "none", FOLD, 1.4),
+        path("M81 82 q3 4.5 1.5 10 M46 102 C52 108 60 109 67 106", "none", FOLD, 1.4),
         sleeve()))
 
 
@@ -110,19 +114,20 @@ def loose_arrows(x, y, radius):
     return "".join(out)
 
 
-def closing_arrows():
+def closing_arrows(x, y):
+    """Short straight arrows from around towards the closed hands."""
     out = []
-    for x in (141 - 68, 141 + 68):
-        for start, end in ((-150, -118), (-30, -62)):
-            points = arc(x, 74, 60, start, end)
-            out.append(arrow_along(points, CORAL, 2.6, 6))
+    for sign in (-1, 1):
+        for degrees in (-148, -90, -32):
+            ends = [arc(141 + sign * x, y, r, degrees, degrees, 1)[0] for r in (62, 48)]
+            out.append(arrow_along(ends, CORAL, 2.6, 6))
     return "".join(out)
 
 
 def poses():
     spread = pair(open_hand(SPREAD), 74, 122, 0.72) + spread_arrows(74, 122, 0.72)
-    closed = pair(fist(), 68, 122, 0.84) + closing_arrows()
-    ghost = "".join(f'<g opacity="0.3">{pair(open_hand(LOOSE), 70, 124, 0.74, t)}</g>'
+    closed = pair(fist(), 72, 127, 0.81) + closing_arrows(72, 74)
+    ghost = "".join(f'<g opacity="0.3">{pair(open_hand(LOOSE, False), 70, 124, 0.74, t)}</g>'
                     for t in (-20, 20))
     loose = ghost + pair(open_hand(LOOSE), 70, 124, 0.74) + loose_arrows(70, 124, 108)
     return spread, closed, loose
