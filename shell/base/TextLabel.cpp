@@ -15,6 +15,9 @@ namespace keyfluent::shell
 namespace
 {
 
+// Marks above and below Arabic letters can stand this far out of a line.
+constexpr int overhang = 2;
+
 // Room for a text that is laid out without a width of its own.
 constexpr int widest = 100000;
 
@@ -92,7 +95,8 @@ QTextOption TextLabel::Option(Side side) const
 QSize TextLabel::NeededSize(int width) const
 {
     const QSizeF size = LaidOut(text(), font(), Option(side_), width);
-    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+    return {static_cast<int>(std::ceil(size.width())),
+            static_cast<int>(std::ceil(size.height())) + 2 * overhang};
 }
 
 int TextLabel::FitHeight()
@@ -162,8 +166,8 @@ void TextLabel::paintEvent(QPaintEvent*)
 void TextLabel::Paint(QPainter& painter, const QString& text, Side side) const
 {
     const QTextOption option = Option(side);
-    const qreal needed = std::ceil(LaidOut(text, font(), option, width()).height());
-    qreal top = std::max(0.0, (height() - needed) / 2.0);
+    const int needed = static_cast<int>(std::ceil(LaidOut(text, font(), option, width()).height()));
+    qreal top = std::max(overhang, (height() - needed) / 2);
     for (const QString& paragraph : text.split(u'\n')) {
         QTextLayout layout(paragraph, font());
         layout.setTextOption(option);

@@ -135,7 +135,9 @@ TextLabel* frmLesson::AddRecordLabel(const char* name, session::Label& label, Si
 void frmLesson::BuildLabels()
 {
     const Side reading = Arabic() ? Side::Right : Side::Left;
-    AddRecordLabel("lblTitle", lesson_.lblTitle, Side::Centre)->setFont(FormFont(11, true));
+    TextLabel* title = AddRecordLabel("lblTitle", lesson_.lblTitle, Side::Centre);
+    title->FitFace([](double points) { return FormFont(points, true); }, 11, 8);
+    setWindowTitle(title->text());
     AddRecordLabel("Label7", lesson_.label7, Side::Centre);
     AddRecordLabel("lblTimer", lesson_.lblTimer, Side::Centre)->setFont(FormFont(12, true));
     AddRecordLabel("lblResulotion", lesson_.lblResulotion, reading);
