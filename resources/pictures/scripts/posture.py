@@ -45,16 +45,16 @@ def posture_marks(child, screen_x, floor):
 
 
 def how_to_sit():
-    unit, hip = 70.0, (408.0, 249.3)
+    unit, hip = 70.0, (428.0, 249.3)
     floor = hip[1] + FLOOR * unit
     child = Figure(AT_DESK, hip, unit, BOY, "boy")
     keys = hip[1] + KEYS * unit
     desk_top = keys + 10
     eye = child.eye()
-    screen_x = 190.0
-    stand, top = desk_from_side(106, child.at((-0.72, 0))[0], desk_top, floor, 7)
+    screen_x = 210.0
+    stand, top = desk_from_side(126, child.at((-0.72, 0))[0], desk_top, floor, 7)
     scene = [floor_strip(600, floor, 400),
-             oval(270, floor + 6, 210, 7, "#000000", extra='fill-opacity="0.10"'),
+             oval(292, floor + 6, 210, 7, "#000000", extra='fill-opacity="0.10"'),
              chair(child.at((0.40, 0))[0], hip[1] + SEAT * unit - 2, floor, 118, 1.42 * unit),
              stand, child.back(), top,
              screen_from_side(screen_x, eye[1] - 4, eye[1] + 104, desk_top),
