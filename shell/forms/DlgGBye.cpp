@@ -13,7 +13,8 @@ DlgGBye::DlgGBye(Program& program) : Form(program, "DlgGBye", {460, 200})
     const progress::ByeTexts texts = progress::ByeMessage(state(), program.Machine());
     AddTitle(Arabic() ? u"كي فلونت" : u"KeyFluent");
     TextLabel* message = AddLabel("lblByeMsg", {30, 52, 400, 80}, texts.message, 11);
-    const int bottom = std::max(message->geometry().top() + message->FitHeight(), 120);
+    message->resize(message->width(), std::max(message->FitHeight(), 70));
+    const int bottom = message->geometry().bottom();
     const Button bye =
         AddButton("cmdGoodBye", "lblGoodBye", {172, bottom + 20}, texts.caption, [this, &program] {
             Unload();

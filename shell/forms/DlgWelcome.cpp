@@ -17,7 +17,8 @@ DlgWelcome::DlgWelcome(Program& program) : Form(program, "DlgWelcome", {460, 220
     AddImage("imgIcon", {arabic ? 350 : 20, 45}, greetingPicture);
     TextLabel* message = AddLabel("lblWelcomeMsg", {arabic ? 20 : 130, 50, 310, 90},
                                   progress::NewStudentGreeting(state()), 11);
-    const int bottom = std::max(message->geometry().top() + message->FitHeight(), 135);
+    message->resize(message->width(), std::max(message->FitHeight(), 82));
+    const int bottom = message->geometry().bottom();
     const Button ok = AddButton("cmdOK", "lblOK", {arabic ? 240 : 105, bottom + 20},
                                 arabic ? u"موافق" : u"OK", [this] { Unload(); });
     const Button cancel = AddButton(

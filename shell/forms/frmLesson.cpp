@@ -137,6 +137,7 @@ void frmLesson::BuildLabels()
     const Side reading = Arabic() ? Side::Right : Side::Left;
     TextLabel* title = AddRecordLabel("lblTitle", lesson_.lblTitle, Side::Centre);
     title->FitFace([](double points) { return FormFont(points, true); }, 11, 8);
+    title->FitHeight(); // above the rule
     setWindowTitle(title->text());
     AddRecordLabel("Label7", lesson_.label7, Side::Centre);
     AddRecordLabel("lblTimer", lesson_.lblTimer, Side::Centre)->setFont(FormFont(12, true));

@@ -41,7 +41,7 @@ frmViewRecommands::frmViewRecommands(Program& program)
     const bool arabic = Arabic();
     lblTitle_ = AddTitle(u"");
     lblTitle_->SetRightToLeft(true);
-    lblhelp_ = AddLabel("lblhelp", {24, Pixels(600), formWidth - 48, 460}, u"", 10.5);
+    lblhelp_ = AddLabel("lblhelp", {24, Pixels(600), formWidth - 48, 460}, u"", 12);
     lblhelp_->SetReading(true);
     lblB_ = AddLabel("lblB", {24, 490, formWidth - 48, 22},
                      u"تنقر مسطرة المسافات دائما بإبهام اليد اليمنى.", 10.5, true);

@@ -16,7 +16,8 @@ frmWelcome::frmWelcome(Program& program) : Form(program, "frmWelcome", {480, 220
     AddTitle(arabic ? u"كي فلونت" : u"KeyFluent");
     TextLabel* text = AddLabel("lblText", {30, 50, 420, 90},
                                progress::WelcomeText(state(), program.Machine()), 11);
-    const int bottom = std::max(text->geometry().top() + text->FitHeight(), 130);
+    text->resize(text->width(), std::max(text->FitHeight(), 80));
+    const int bottom = text->geometry().bottom();
     const Button ok = AddButton("cmdOK", "lblOK", {182, bottom + 20}, arabic ? u"موافق" : u"OK",
                                 [this, &program] {
                                     Unload([&program]() -> std::unique_ptr<Form> {
