@@ -181,12 +181,15 @@ TEST_F(VirtualMachineTest, AStoppedTimerThatIsStartedAgainBeginsAnew)
 TEST_F(VirtualMachineTest, TheTimeOfDayOfATickIsItsOwn)
 {
     Open();
+    for (const int code : {65, 83, 68, 70, 32, 65, 83, 68, 70, 32}) {
+        Key(code);
+    }
+    machine.Wait(4000);
     machine.Lesson().blinkCount = 0;
-    Key('A');
-    Key('X'); // the figures are reckoned anew 0.42 seconds on, which count as one
+    Key('X'); // the figures are reckoned anew when its blink ends, 4.42 seconds from the start
     machine.Wait(100000);
-    EXPECT_EQ(machine.Lesson().speedRate, 10);
-    EXPECT_EQ(machine.Lesson().lblTimer.caption, u"01:40");
+    EXPECT_EQ(machine.Lesson().speedRate, 127);
+    EXPECT_EQ(machine.Lesson().lblTimer.caption, u"01:44");
 }
 
 TEST_F(VirtualMachineTest, TimersDueAtOneMomentFireInTheOrderOfTheirNames)
