@@ -200,12 +200,14 @@ TEST_F(AllocationTest, AnAnagramAsksForNoMemory)
         context.anagramLanguage = arabic;
         context.freeTextChars = arabic ? u"شسيبلاتنمك" : u"asdfjkl;Ae";
         for (const int lesson : {10, 14}) { // at once, and in Arabic late
-            for (const bool counted : {false, true}) {
+            // The letters are drawn: the typist has met them all before the last run, which counts.
+            constexpr int runs = 20;
+            for (int run = 1; run <= runs; ++run) {
                 OpenPlace(lesson, 5, Language::English);
                 PerfectTypist typist(*this);
                 Count count;
                 const bool ended = typist.TypeToTheEnd(1000);
-                EXPECT_EQ(counted ? count.Stop() : 0, 0) << lesson;
+                EXPECT_EQ(run == runs ? count.Stop() : 0, 0) << lesson;
                 ASSERT_TRUE(ended);
             }
         }

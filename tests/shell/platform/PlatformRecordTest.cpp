@@ -168,9 +168,9 @@ private slots:
             char height;
         } sounds[] = {{Player::Enter, u"/enter.wav", 1},
                       {Player::Char, u"/char.wav", 2},
-                      {Player::Space, u"/space.wav", 3},
-                      {Player::Caps, u"/caps.wav", 4},
-                      {Player::Back, u"/Back.wav", 5}};
+                      {Player::Space, u"/space.wav", 4},
+                      {Player::Caps, u"/caps.wav", 8},
+                      {Player::Back, u"/Back.wav", 16}};
         for (const auto& sound : sounds) {
             QFile file(folder_.path() + QString::fromUtf16(sound.file));
             QVERIFY(file.open(QIODevice::WriteOnly));
@@ -184,7 +184,8 @@ private slots:
             platform_.commandPlayer(sound.player, PlayerCommand::Play);
             ++count;
             QTRY_COMPARE(heard_->All().size(), count);
-            QCOMPARE(heard_->All().back(), static_cast<std::int16_t>(sound.height << 8));
+            // One that still sounds may be mixed in: each height is a bit of its own.
+            QVERIFY((heard_->All().back() >> 8) & sound.height);
         }
     }
 
