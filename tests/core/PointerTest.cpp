@@ -1,10 +1,12 @@
 #include "session/Pointer.h"
 
 #include "LessonFixture.h"
+#include "context/FatalError.h"
 #include "session/Review.h"
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <set>
 
 namespace keyfluent::session
@@ -250,6 +252,18 @@ TEST_F(PointerTest, StopsAreCountedAcrossExercisesAndStudents)
     }
 }
 
+TEST_F(PointerTest, AStopTooManyForItsFieldEndsTheProgram)
+{
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    context.stopCount = most - 1;
+    Open();
+    PressStop(It());
+    EXPECT_EQ(context.stopCount, most);
+    Open();
+    EXPECT_THROW(PressStop(It()), context::FatalError);
+    EXPECT_EQ(context.stopCount, most);
+}
+
 TEST_F(PointerTest, AnyPhaseCanBeStopped)
 {
     OpenRows(1, 1, Language::English, {u"asdf "});
@@ -321,7 +335,7 @@ TEST_F(PointerTest, AButtonOnAFieldBringsTheCaution)
     OpenRows(1, 1, Language::English, {u"asdf "});
     for (const FieldName field : {FieldName::Origin, FieldName::Test}) {
         It().txtOrigin.Select(3, 2);
-        PressField(It(), field);
+        EXPECT_TRUE(PressField(It(), field));
         EXPECT_EQ(TakeEvents(), (Events{"system beep", "show frmNotAllowed", "focus txtOrigin"}));
         EXPECT_EQ(State(), "1/1 [a]sdf  |  | 0+0 waiting");
     }
@@ -348,8 +362,8 @@ TEST_F(PointerTest, InTheReviewTheFieldsMayBeClicked)
     Wait(2000);
     Type(u"c");
     machine.events.clear();
-    PressField(It(), FieldName::Test);
-    PressField(It(), FieldName::Origin);
+    EXPECT_FALSE(PressField(It(), FieldName::Test)); // the press is the field's own
+    EXPECT_FALSE(PressField(It(), FieldName::Origin));
     ClickOrigin(It());
     EXPECT_EQ(TakeEvents(), Events{});
 }
