@@ -46,6 +46,7 @@ Form::Form(Program& program, const char* name, QSize size)
     setLayoutDirection(Qt::LeftToRight); // places are told and never mirrored by the toolkit
     setFixedSize(size);
     btnTimer_.setObjectName(QStringLiteral("btnTimer"));
+    btnTimer_.setTimerType(Qt::PreciseTimer);
     btnTimer_.setInterval(flashInterval);
     connect(&btnTimer_, &QTimer::timeout, this, &Form::TickFlash);
 }

@@ -16,6 +16,7 @@ frmIslam::frmIslam(Program& program) : Form(program, "frmIslam", {1, 1})
     setFixedSize(picture->size());
     auto* timer = new QTimer(this);
     timer->setObjectName(QStringLiteral("Timer1"));
+    timer->setTimerType(Qt::PreciseTimer);
     timer->setSingleShot(true);
     connect(timer, &QTimer::timeout, this, [this, &program] {
         Unload([&program] { return std::make_unique<frmSplash>(program); });

@@ -36,6 +36,7 @@ frmLessonDescription::frmLessonDescription(Program& program)
     // Blinks to call the eye to the one way out.
     timer_ = new QTimer(this);
     timer_->setObjectName(QStringLiteral("Timer1"));
+    timer_->setTimerType(Qt::PreciseTimer);
     timer_->setInterval(blinkInterval);
     connect(timer_, &QTimer::timeout, this, &frmLessonDescription::Blink);
     timer_->start();

@@ -15,6 +15,7 @@ frmSplash::frmSplash(Program& program) : Form(program, "frmSplash", {1, 1})
     setFixedSize(picture->size());
     auto* timer = new QTimer(this);
     timer->setObjectName(QStringLiteral("Timer1"));
+    timer->setTimerType(Qt::PreciseTimer);
     timer->setSingleShot(true);
     connect(timer, &QTimer::timeout, this, &frmSplash::GoOn);
     timer->start(duration);
