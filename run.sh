@@ -53,11 +53,14 @@ DISPLAY=":$(cat "$scratch/number")"
 export DISPLAY
 openbox >/dev/null 2>&1 &
 manager=$!
-x11vnc -display "$DISPLAY" -localhost -nopw -forever -shared -quiet -rfbport 0 -autoport 5900 \
+x11vnc -display "$DISPLAY" -localhost -nopw -forever -shared -quiet -autoport 5900 \
     >"$scratch/port" 2>/dev/null &
 viewer=$!
-sleep 1
-
+tries=0
+until grep -q '^PORT=' "$scratch/port" || [ "$tries" -gt 50 ]; do
+    tries=$((tries + 1))
+    sleep 0.1
+done
 port=$(sed -n 's/^PORT=//p' "$scratch/port" | head -n 1)
 echo "This machine has no display: KeyFluent runs on the virtual display $DISPLAY."
 echo "To look at it and use it, from this machine alone:"
