@@ -1,5 +1,6 @@
 #include "shell/Printing.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -16,18 +17,26 @@ constexpr int twipsPerInch = 1440;
 QSize PaperInTwips(const QPrinter& printer)
 {
     const QSizeF inches = printer.pageLayout().fullRect(QPageLayout::Inch).size();
-    return {static_cast<int>(inches.width() * twipsPerInch),
-            static_cast<int>(inches.height() * twipsPerInch)};
+    return (inches * twipsPerInch).toSize();
 }
 
-// The copies are drawn one after another; a printer that copies by itself is told to make one.
-void DrawCopies(QPrinter& printer, const std::function<void(QPainter&, QSize page)>& drawPage)
+// A file that cannot be written is found out before the toolkit tells the terminal.
+bool CanBegin(const QPrinter& printer)
+{
+    const QString name = printer.outputFileName();
+    return name.isEmpty() || QFile(name).open(QIODevice::Append);
+}
+
+} // namespace
+
+// The copies are drawn here; a printer that copies by itself is told to make one.
+void PrintOn(QPrinter& printer, const std::function<void(QPainter&, QSize page)>& drawPage)
 {
     const int copies = std::max(printer.copyCount(), 1);
     printer.setCopyCount(1);
     printer.setFullPage(true);
     QPainter painter;
-    if (!painter.begin(&printer)) {
+    if (!CanBegin(printer) || !painter.begin(&printer)) {
         return;
     }
     const double scale = static_cast<double>(printer.resolution()) / twipsPerInch;
@@ -40,15 +49,13 @@ void DrawCopies(QPrinter& printer, const std::function<void(QPainter&, QSize pag
     }
 }
 
-} // namespace
-
 void PrintPages(QWidget* parent, const std::function<void(QPainter&, QSize page)>& drawPage)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(QPageLayout::Landscape);
     QPrintDialog dialog(&printer, parent);
     if (dialog.exec() == QDialog::Accepted) {
-        DrawCopies(printer, drawPage);
+        PrintOn(printer, drawPage);
     }
 }
 
