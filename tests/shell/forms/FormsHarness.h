@@ -156,13 +156,16 @@ void UseOffscreenScreen(QSize size, double ratio = 1);
 
 } // namespace keyfluent::shell
 
-// As KEYFLUENT_TEST_MAIN, with the program's pictures, faces and looks, on a large screen.
-#define KEYFLUENT_FORMS_TEST_MAIN(TestClass)                                                       \
+// As KEYFLUENT_TEST_MAIN, with the program's pictures, faces and looks, on a large screen of ratio
+// device pixels to a pixel of the layout.
+#define KEYFLUENT_FORMS_TEST_MAIN_AT(TestClass, ratio)                                             \
     int main(int argc, char** argv)                                                                \
     {                                                                                              \
-        keyfluent::shell::UseOffscreenScreen({1600, 1200});                                        \
+        keyfluent::shell::UseOffscreenScreen({1600, 1200}, ratio);                                 \
         keyfluent::shell::Application application(argc, argv);                                     \
         keyfluent::shell::PrepareApplication();                                                    \
         TestClass test;                                                                            \
         return keyfluent::shell::RunTests(test, argc, argv);                                       \
     }
+
+#define KEYFLUENT_FORMS_TEST_MAIN(TestClass) KEYFLUENT_FORMS_TEST_MAIN_AT(TestClass, 1)

@@ -30,7 +30,8 @@ bool Runs(const QPointer<QWidget>& window)
     return !record.unloaded && !record.reviewMode;
 }
 
-// Keys of the Latin keyboard in the order of their places, from the place of the first one.
+// Keys in the order of their places, from the place of the first one: of the Latin keyboard, and of
+// the Arabic one on Windows.
 struct KeyRow {
     std::u16string_view plain;
     std::u16string_view shifted;
@@ -43,6 +44,10 @@ constexpr KeyRow keyRows[] = {
     {u"asdfghjkl;'`", u"ASDFGHJKL:\"~", 30},
     {u"\\zxcvbnm,./", u"|ZXCVBNM<>?", 43},
     {u" ", u"", 57},
+    {u"ضصثقفغعهخحجد", u"", 16},
+    {u"شسيبلاتنمكطذ", u"", 30},
+    {u"ئءؤر", u"", 44},
+    {u"ىةوزظ", u"", 49},
 };
 constexpr quint32 placeOfReturn = 28;
 constexpr quint32 placeOfShift = 42;

@@ -1,4 +1,4 @@
-// Typing in the exercise window, in English exercises: keys by their places on the keyboard.
+// Typing in the exercise window: keys by their places on the keyboard.
 #pragma once
 
 class QWidget;

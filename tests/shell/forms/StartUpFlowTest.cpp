@@ -3,6 +3,7 @@
 #include "shell/base/ImageControl.h"
 #include "shell/base/TextLabel.h"
 #include "shell/forms/frmBlack.h"
+#include "shell/forms/frmSplash.h"
 
 #include "tests/shell/forms/FormsHarness.h"
 
@@ -87,7 +88,7 @@ void StartUpFlowTest::AKeyCutsTheSplashShort()
                 QVERIFY(clock.elapsed() < 500);
                 shell::Click(window, "imgCansel");
             });
-        QVERIFY2(script.Run([&] { world.program().Begin(); }), script.Report());
+        QVERIFY2(script.Run([&] { world.program().Show<frmSplash>(); }), script.Report());
         QCOMPARE(world.endStatus, std::optional<int>(0));
     }
 }
@@ -149,7 +150,7 @@ void StartUpFlowTest::SplashClosedAndItsTimerStartTheProgramOnce()
             PassTime(2700); // the splash's timer would have fired by now
             shell::Click(window, "imgCansel");
         });
-    QVERIFY2(script.Run([&] { world.program().Begin(); }), script.Report());
+    QVERIFY2(script.Run([&] { world.program().Show<frmSplash>(); }), script.Report());
     QCOMPARE(world.endStatus, std::optional<int>(0));
 }
 
