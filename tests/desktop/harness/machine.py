@@ -195,8 +195,12 @@ class Keyboard:
 
     def use_map(self, layout):
         """us, ara, fr: the desktop's input language."""
-        subprocess.run(["setxkbmap", layout], env=self._machine.environment, check=True,
-                       stderr=subprocess.DEVNULL)
+        # A server that has only just begun may not take a map yet.
+        wait_until(lambda: self._set_map(layout), f"the keyboard map {layout}")
+
+    def _set_map(self, layout):
+        return subprocess.run(["setxkbmap", layout], env=self._machine.environment, check=False,
+                              stderr=subprocess.DEVNULL).returncode == 0
 
     def press(self, place):
         self._held.add(place)
