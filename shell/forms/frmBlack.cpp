@@ -63,6 +63,7 @@ void frmBlack::Enter()
     mnuFileLogout_->setEnabled(true);
     mnuLessons_->setEnabled(true);
     if (!isVisible()) {
+        setFocus(); // a button has the focus only when the keyboard has led to it
         showMaximized();
     }
     activateWindow();

@@ -383,6 +383,10 @@ void Script::GiveUp(const QWidget* top)
 
 void UseOffscreenScreen(QSize size, double ratio)
 {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && platform != "offscreen") {
+        return;
+    }
     static QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("screen.json"));
     QFile file(path);

@@ -150,8 +150,8 @@ private:
     QByteArray report_;
 };
 
-// A screen of a size and a density for the offscreen platform; to be called before the application
-// is made.
+// A screen of a size and a density on the offscreen platform, unless the caller asks for another
+// platform; before the application is made.
 void UseOffscreenScreen(QSize size, double ratio = 1);
 
 } // namespace keyfluent::shell
