@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStandardPaths>
@@ -101,16 +102,21 @@ Desktop RealDesktop(Machine& machine)
     desktop.startSystemInformation = [] { return ShowSystemInformation(); };
     desktop.pickColour = PickColour;
     desktop.printPages = PrintPages;
-    desktop.noteKey = [&machine](const QKeyEvent& event) { machine.capsLock.KeyEvent(event); };
     desktop.refreshKeyboard = [&machine] { machine.capsLock.Refresh(); };
+    desktop.restSounds = [&machine] { machine.sounds.Rest(); };
     desktop.endProcess = [](int status) { QCoreApplication::exit(status); };
     return desktop;
 }
 
 } // namespace
 
+// The window system gives a key to a window, which hands it on to its controls.
 bool Application::notify(QObject* receiver, QEvent* event)
 {
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (isKey && receiver->isWindowType() && onKey) {
+        onKey(*static_cast<QKeyEvent*>(event));
+    }
     try {
         return QApplication::notify(receiver, event);
     } catch (const context::FatalError& failure) {
@@ -145,6 +151,7 @@ int RunProgram(int argc, char** argv)
     Machine machine;
     const context::Platform platform = MakePlatform(machine.capsLock, machine.sounds, folder);
     Program program(platform, RealDesktop(machine), FromQString(folder));
+    application.onKey = [&machine](const QKeyEvent& event) { machine.capsLock.KeyEvent(event); };
     int failed = 0;
     application.onFailure = [&](const context::FatalError& failure) {
         if (failed++ > 0) {

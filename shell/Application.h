@@ -7,6 +7,8 @@
 
 #include <functional>
 
+class QKeyEvent;
+
 namespace keyfluent::shell
 {
 
@@ -18,6 +20,8 @@ public:
     using QApplication::QApplication;
 
     std::function<void(const context::FatalError&)> onFailure;
+    // Each key event of any window of the process, once, before anything is done about it.
+    std::function<void(const QKeyEvent&)> onKey;
 
     bool notify(QObject* receiver, QEvent* event) override;
 };

@@ -15,7 +15,6 @@
 #include <string>
 #include <vector>
 
-class QKeyEvent;
 class QPainter;
 
 namespace keyfluent::shell
@@ -36,10 +35,10 @@ struct Desktop {
     // that counts in twips; page is the paper's size in twips. Cancel and errors end it silently.
     std::function<void(QWidget* parent, const std::function<void(QPainter&, QSize page)>& drawPage)>
         printPages;
-    // The keyboard's state: each key event of an exercise is told, and before the state is used
-    // afresh it is asked for.
-    std::function<void(const QKeyEvent&)> noteKey;
+    // Asks for the keyboard's state; whenever it may have changed while no window heard the keys.
     std::function<void()> refreshKeyboard;
+    // An exercise is over, and no sound comes before the next one.
+    std::function<void()> restSounds;
     std::function<void(int status)> endProcess;
 };
 

@@ -72,7 +72,11 @@ frmLesson::frmLesson(Program& program)
     AfterEvent();
 }
 
-frmLesson::~frmLesson() = default;
+// Here and not as the record ends: the end itself may still sound.
+frmLesson::~frmLesson()
+{
+    program().World().restSounds();
+}
 
 void frmLesson::FillWindow()
 {
@@ -449,7 +453,6 @@ bool frmLesson::HandleKey(QKeyEvent& event)
     if (lesson_.unloaded) {
         return true;
     }
-    program().World().noteKey(event);
     const std::uint16_t code = KeyNumber(event, lesson_.context.arabicExercise);
     const bool down = event.type() == QEvent::KeyPress;
     if (code == keyboard::keyShift && !event.isAutoRepeat()) {

@@ -36,6 +36,8 @@ private slots:
     void FreeTextAsksForNothing();
     void AStoppedExerciseShowsANoteAndKeepsNothing();
     void ACloseRequestStopsTheExercise();
+    void SoundsRestWhenAnExerciseHasGone_data();
+    void SoundsRestWhenAnExerciseHasGone();
     void TheWholeProgramSpeaksArabicAfterAStop();
     void TheEndOfAnAnagramShowsNothing();
     void ClosingTheResult_data();
@@ -413,6 +415,36 @@ void ExerciseFlowTest::ACloseRequestStopsTheExercise()
         .At("frmStopNote", [](QWidget& window) { RequestClose(window); });
     QVERIFY2(script.Run(), script.Report());
     QCOMPARE(world.state().stopCount, 1);
+}
+
+void ExerciseFlowTest::SoundsRestWhenAnExerciseHasGone_data()
+{
+    QTest::addColumn<bool>("stopped");
+    QTest::newRow("typed to its end") << false;
+    QTest::newRow("stopped") << true;
+}
+
+// Already behind the window that comes next.
+void ExerciseFlowTest::SoundsRestWhenAnExerciseHasGone()
+{
+    QFETCH(bool, stopped);
+    World world;
+    StartAfterAnExercise(world, 1, 2);
+    world.state().optSound = true;
+    Script script(world);
+    script.Click("frmBlack", "imgDuplicate").At("frmLesson", [&](QWidget& window) {
+        QVERIFY(!world.soundsRest);
+        if (stopped) {
+            PressOn("imgStop")(window);
+        } else {
+            TypeToTheEnd(window);
+        }
+    });
+    script.At(stopped ? "frmStopNote" : "frmResult", [&](QWidget& window) {
+        QVERIFY(world.soundsRest);
+        PressAt(window, {10, 60});
+    });
+    QVERIFY2(script.Run(), script.Report());
 }
 
 // The main window keeps its captions until the preferences set them again.

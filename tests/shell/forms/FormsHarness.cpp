@@ -72,8 +72,8 @@ context::Platform World::MakeMachine()
         return next;
     };
     machine.capsLockState = [] { return std::int16_t{0}; };
-    machine.openPlayer = [](context::Player, const std::u16string&) {};
-    machine.commandPlayer = [](context::Player, context::PlayerCommand) {};
+    machine.openPlayer = [this](context::Player, const std::u16string&) { soundsRest = false; };
+    machine.commandPlayer = [this](context::Player, context::PlayerCommand) { soundsRest = false; };
     machine.beep = [this] { ++beeps; };
     return machine;
 }
@@ -99,8 +99,8 @@ Desktop World::MakeDesktop()
             printer(drawPage);
         }
     };
-    desktop.noteKey = [](const QKeyEvent&) {};
     desktop.refreshKeyboard = [] {};
+    desktop.restSounds = [this] { soundsRest = true; };
     desktop.endProcess = [this](int status) { endStatus = status; };
     return desktop;
 }

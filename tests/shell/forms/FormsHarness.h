@@ -46,7 +46,8 @@ public:
     QStringList messages;
     QStringList failures; // reported ones; each ends the program with status 1
     int toolStarts = 0;
-    QColor pickedColour; // invalid stands for Cancel
+    bool soundsRest = true; // nothing was opened or played since the sounds were let go
+    QColor pickedColour;    // invalid stands for Cancel
     QList<QColor> coloursOffered;
     std::function<void(const std::function<void(QPainter&, QSize)>& drawPage)> printer;
     int printDialogs = 0;
