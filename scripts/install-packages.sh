@@ -13,7 +13,7 @@ build_packages="g++ cmake ninja-build python3 librsvg2-bin qt6-base-dev qt6-svg-
     xvfb xauth openbox x11vnc x11-apps"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev libhunspell-dev hunspell-en-us
     hunspell-ar pkg-config clang-format xdotool x11-xkb-utils x11-utils dbus-x11 at-spi2-core
-    python3-pyatspi python3-xlib python3-gi gir1.2-atspi-2.0 poppler-utils"
+    python3-pyatspi python3-xlib python3-gi gir1.2-atspi-2.0 poppler-utils weston qt6-wayland"
 
 case "${1:-}" in
 build) wanted=$build_packages ;;

@@ -86,6 +86,16 @@ void SetLooks()
     QApplication::setFont(FormFont(10, false));
 }
 
+// An X server first, also beside a Wayland compositor: there Caps Lock is known from the start. One
+// that is not there is not tried first, for the toolkit would tell the terminal about it.
+void ChoosePlatform()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        const bool hasXServer = !qEnvironmentVariableIsEmpty("DISPLAY");
+        qputenv("QT_QPA_PLATFORM", hasXServer ? "xcb;wayland" : "wayland;xcb");
+    }
+}
+
 struct Machine {
     CapsLockWatch capsLock;
     SoundPlayer sounds;
@@ -141,9 +151,7 @@ int RunProgram(int argc, char** argv)
 {
     // A file-size limit is a failure to report like any other, not a signal.
     std::signal(SIGXFSZ, SIG_IGN);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-    }
+    ChoosePlatform();
     const QString folder = StartFolder(argv[0]);
     Application application(argc, argv);
     PrepareApplication();

@@ -9,10 +9,6 @@ from harness.waiting import let_pass
 STOP_NOTES = ("ما الفائدة", "أتيت", "لا تتكاسل", "نذكرك", "بكل سرعة", "ماذا", "قد بدأت",
               "هل بإمكانك")
 
-# The place of the Caps Lock key in the picture of the keyboard, in pixels of the window, for a text
-# of 13 points or more.
-CAPS_LOCK_CAP = (87, 215, 49, 24)
-
 
 class LessonWindow(case.DesktopTest):
     def test_mouse(self):
@@ -113,18 +109,16 @@ class LessonWindow(case.DesktopTest):
 
     def check_caps_lock(self, lesson):
         """Caps Lock was on before the exercise began; with it a small letter passes with Shift."""
-        def cap_is_dark():
-            left, top, _, _ = lesson.window.place
-            x, y, width, height = CAPS_LOCK_CAP
-            pixels = self.machine.pixels(left + x, top + y, width, height)
-            return sum(pixels[1::4]) < 128 * width * height
-        lesson.wait(cap_is_dark, "the picture shows that Caps Lock is on")
+        corner = lesson.window.place[:2]
+        lesson.wait(lambda: lesson.shows_caps_lock(*corner),
+                    "the picture shows that Caps Lock is on")
         self.keyboard.tap(*self.shifted("a"))
         self.key_is_right(lesson, "a")
         self.type("s", keys.ENGLISH)
         self.key_is_right(lesson, "as")
         self.keyboard.tap(keys.CAPS_LOCK)
-        lesson.wait(lambda: not cap_is_dark(), "the picture shows that Caps Lock is off")
+        lesson.wait(lambda: not lesson.shows_caps_lock(*corner),
+                    "the picture shows that Caps Lock is off")
         self.keyboard.tap(*self.shifted("d"))
         self.key_is_wrong(lesson, "as")
         self.type("d", keys.ENGLISH)

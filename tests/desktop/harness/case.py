@@ -28,6 +28,12 @@ class DesktopTest(Visitor, unittest.TestCase):
     def setUp(self):
         self.begin(here())
 
+    def tearDown(self):
+        """No program says anything on its terminal, but for the report of a failure that a test
+        has read."""
+        for program in self.programs:
+            self.assertEqual(program.said, program.expected, "on the terminal")
+
     def run(self, result=None):
         before = len(result.failures) + len(result.errors)
         super().run(result)

@@ -25,11 +25,15 @@ mkdir -p -m 1777 /tmp/.X11-unix && mount -t tmpfs -o mode=1777 none /tmp/.X11-un
 """
 _DIE_WITH_PARENT = 1  # PR_SET_PDEATHSIG
 
-# No key of the window manager's own: every key belongs to the program.
+# No key of the window manager's own: every key belongs to the program. The Wayland desktop covers
+# the screen.
 _WINDOW_MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
 <focus><focusNew>yes</focusNew></focus>
 <keyboard></keyboard>
+<theme><keepBorder>no</keepBorder></theme>
+<applications><application class="Weston*"><decor>no</decor>
+<position force="yes"><x>0</x><y>0</y></position></application></applications>
 </openbox_config>
 """
 

@@ -32,10 +32,12 @@ class Folder:
 
 
 class Program:
-    """One run of the program. What it says on its error output is kept for the report."""
+    """One run of the program. What it says on the terminal is kept; expected is what the test has
+    taken note of."""
 
     def __init__(self, machine, eyes, folder):
         self.folder = folder
+        self.expected = ""
         self._eyes = eyes
         log, self._log = tempfile.mkstemp(prefix="said-", dir=machine.scratch)
         self.process = machine.run([str(folder.program)], cwd=machine.scratch, stdout=log,
@@ -85,7 +87,7 @@ class Program:
         self.process.wait()
 
     def tell(self):
-        lines = [f"error output:\n{self.said}"]
+        lines = [f"on the terminal:\n{self.said}"]
         if self.runs():
             for window in self.windows():
                 lines += window.tell()

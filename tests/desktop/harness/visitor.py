@@ -29,6 +29,11 @@ WORDS = {
     "sum": ("Your Score:", "مجموعك :"),
 }
 
+# The place of the Caps Lock key in the picture of the keyboard, in pixels of an exercise's window,
+# for a text of 13 points or more.
+CAPS_LOCK_CAP = (87, 215, 49, 24)
+
+
 def centre(node):
     left, top, width, height = node.place
     return left + width // 2, top + height // 2
@@ -144,8 +149,9 @@ class Visitor:
         title = self.control(bar, "menu item", menu)
         self.click(title)
         popup = title.children()[0]
-        self.program.wait(lambda: popup.has(screen.SHOWING), f"the menu {menu!r} is open")
-        self.click(self.control(popup, "menu item", item))
+        shown = self.program.wait(lambda: showing(popup, "menu item", item),
+                                  f"the menu {menu!r} shows {item!r}")
+        self.click(shown[0])
 
     def log_out(self, answer):
         self.choose_from_menu(self.word("file"), self.word("log out"))
@@ -168,8 +174,10 @@ class Visitor:
         report = self.program.wait_for_window(is_report, f"a report that names {file}")
         self.click(next(node for node in report.all() if node.role == "push button"))
         expect(self.program.wait_for_end() == 1, "a failure ends the program with status 1")
-        told = [line for line in self.program.said.splitlines() if line.startswith("KeyFluent:")]
-        expect(len(told) == 1 and str(file) in told[0], self.program.said)
+        told = self.program.said.splitlines()
+        expect(len(told) == 1 and told[0].startswith("KeyFluent:") and str(file) in told[0],
+               self.program.said)
+        self.program.expected = self.program.said
 
     # Exercises.
 
@@ -243,6 +251,12 @@ class Lesson:
         """What the label says that matches, or None."""
         texts = (node.name for node in showing(self.window, "label"))
         return next((text for text in texts if re.fullmatch(pattern, text)), None)
+
+    def shows_caps_lock(self, left, top):
+        """Whether the picture of the key is dark, in the window whose corner is there."""
+        x, y, width, height = CAPS_LOCK_CAP
+        pixels = self.visitor.machine.pixels(left + x, top + y, width, height)
+        return sum(pixels[1::4]) < 128 * width * height
 
     def is_open(self):
         try:
