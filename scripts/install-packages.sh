@@ -1,25 +1,30 @@
 #!/bin/sh
 # Installs the Debian packages that a step needs and that are missing. Asks nothing.
 #
-# usage: install-packages.sh build|test
+# usage: install-packages.sh build|test|package
 #
 # build: what the program is built with, and what ./run.sh shows it with on a machine without a
-# display. test: the same and what the tests want.
+# display. test: the same and what the tests want. package: the same as build and what makes packages
+# and tries them out in a clean Debian.
 set -eu
 
-build_packages="g++ cmake ninja-build python3 librsvg2-bin qt6-base-dev qt6-svg-dev libx11-dev
+build_packages="g++ cmake ninja-build python3 librsvg2-bin qt6-base-dev libx11-dev
     libxcb1-dev libpulse-dev fonts-noto-core fonts-hosny-amiri fonts-dejavu-core
     fonts-dejavu-extra
     xvfb xauth openbox x11vnc x11-apps"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev libhunspell-dev hunspell-en-us
     hunspell-ar pkg-config clang-format xdotool x11-xkb-utils x11-utils dbus-x11 at-spi2-core
-    python3-pyatspi python3-xlib python3-gi gir1.2-atspi-2.0 poppler-utils weston qt6-wayland"
+    python3-pyatspi python3-xlib python3-gi gir1.2-atspi-2.0 poppler-utils weston qt6-wayland
+    desktop-file-utils appstream mandoc"
+package_packages="dpkg-dev lintian man-db desktop-file-utils appstream debootstrap git
+    procps dbus x11-xkb-utils python3-xlib"
 
 case "${1:-}" in
 build) wanted=$build_packages ;;
 test) wanted="$build_packages $test_packages" ;;
+package) wanted="$build_packages $package_packages" ;;
 *)
-    echo "usage: install-packages.sh build|test" >&2
+    echo "usage: install-packages.sh build|test|package" >&2
     exit 2
     ;;
 esac

@@ -10,6 +10,8 @@ function(add_font file package)
     endif()
     set(FONT_QRC_LINES "${FONT_QRC_LINES}<file alias=\"${file}\">${FONT_${file}}</file>\n"
         PARENT_SCOPE)
+    # For the copyright file of an installation.
+    set_property(GLOBAL APPEND PROPERTY KEYFLUENT_FACES "${package}=${file}")
 endfunction()
 
 add_font(NotoNaskhArabic-Regular.ttf fonts-noto-core)
