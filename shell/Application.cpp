@@ -2,6 +2,7 @@
 
 #include "shell/Printing.h"
 #include "shell/Program.h"
+#include "shell/base/Boxes.h"
 #include "shell/base/ImageControl.h"
 #include "shell/platform/CapsLock.h"
 #include "shell/platform/Fonts.h"
@@ -11,12 +12,10 @@
 #include "shell/platform/SystemInformation.h"
 #include "shell/platform/TextConversion.h"
 
-#include <QColorDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStyle>
@@ -54,23 +53,7 @@ QString StartFolder(const char* startedAs)
 
 void ShowCritical(const QString& text)
 {
-    QMessageBox box(QMessageBox::Critical, QString(), text, QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-}
-
-void ShowMessage(const QString& text)
-{
-    QMessageBox box(QMessageBox::NoIcon, QString(), text, QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-}
-
-QColor PickColour(const QColor& initial, QWidget* parent)
-{
-    return QColorDialog::getColor(initial, parent, QString(), QColorDialog::DontUseNativeDialog);
+    ShowMessage(QMessageBox::Critical, text);
 }
 
 // The same looks on every desktop.
@@ -108,7 +91,7 @@ Desktop RealDesktop(Machine& machine)
     desktop.screenSize = [] { return QGuiApplication::primaryScreen()->size(); };
     desktop.isFirstInstance = [&machine] { return machine.instance.Acquire(); };
     desktop.showCritical = ShowCritical;
-    desktop.showMessage = ShowMessage;
+    desktop.showMessage = [](const QString& text) { ShowMessage(QMessageBox::NoIcon, text); };
     desktop.startSystemInformation = [] { return ShowSystemInformation(); };
     desktop.pickColour = PickColour;
     desktop.printPages = PrintPages;

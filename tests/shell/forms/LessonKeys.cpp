@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <span>
 #include <string_view>
 
 namespace keyfluent::shell
@@ -30,27 +31,47 @@ bool Runs(const QPointer<QWidget>& window)
     return !record.unloaded && !record.reviewMode;
 }
 
-// Keys in the order of their places, from the place of the first one: of the Latin keyboard, and of
-// the Arabic one on Windows.
+// Keys in the order of their places, from the place of the first one. A blank among the letters
+// stands for a key that gives no single one.
 struct KeyRow {
     std::u16string_view plain;
     std::u16string_view shifted;
     quint32 firstPlace;
 };
 
-constexpr KeyRow keyRows[] = {
+using KeyRows = std::span<const KeyRow>;
+
+constexpr KeyRow englishRows[] = {
     {u"1234567890-=", u"!@#$%^&*()_+", 2},
     {u"qwertyuiop[]", u"QWERTYUIOP{}", 16},
     {u"asdfghjkl;'`", u"ASDFGHJKL:\"~", 30},
     {u"\\zxcvbnm,./", u"|ZXCVBNM<>?", 43},
-    {u" ", u"", 57},
-    {u"ضصثقفغعهخحجد", u"", 16},
-    {u"شسيبلاتنمكطذ", u"", 30},
-    {u"ئءؤر", u"", 44},
-    {u"ىةوزظ", u"", 49},
 };
+constexpr KeyRow arabicWindowsRows[] = {
+    {u"1234567890-=", u"!@#$%^&*)(_+", 2},
+    {u"ضصثقفغعهخحجد", u"     إ ÷×؛<>", 16},
+    {u"شسيبلاتنمكطذ", u"     أـ،/:\"", 30},
+    {u"\\ئءؤر ىةوزظ", u"|     آ  .؟", 43},
+};
+constexpr KeyRow arabicMacintoshRows[] = {
+    {u"1234567890-=", u"!@#$%^&*)( +", 2},
+    {u"ضصثقفغعهخحجة", u"", 16},
+    {u"شسيبلاتنمك؛", u"  ى  آ   :\"", 30},
+    {u"\\ظطذدزرو،./", u"|  ئءأإؤ><؟", 43},
+};
+
+KeyRows RowsOf(const QWidget& window)
+{
+    const context::SessionContext& state = static_cast<const frmLesson&>(window).Record().context;
+    if (!state.arabicExercise) {
+        return englishRows;
+    }
+    return state.keyboardKind == 0 ? KeyRows(arabicMacintoshRows) : KeyRows(arabicWindowsRows);
+}
+
 constexpr quint32 placeOfReturn = 28;
 constexpr quint32 placeOfShift = 42;
+constexpr quint32 placeOfSpace = 57;
 
 // As the desktop brings it: the place stands in the native scan code, eight above.
 void SendKey(QWidget& window, QEvent::Type type, int key, quint32 place)
@@ -70,7 +91,10 @@ void PressKeyOf(QWidget& window, char16_t character)
     if (character == context::lineEndMark) {
         return PressPlace(window, Qt::Key_Return, placeOfReturn);
     }
-    for (const KeyRow& row : keyRows) {
+    if (character == u' ') {
+        return PressPlace(window, Qt::Key_Space, placeOfSpace);
+    }
+    for (const KeyRow& row : RowsOf(window)) {
         const std::size_t plain = row.plain.find(character);
         const std::size_t shifted = row.shifted.find(character);
         if (plain != row.plain.npos) {
@@ -103,7 +127,11 @@ void TypeToTheEnd(QWidget& lessonWindow)
 
 void TypeWrong(QWidget& lessonWindow)
 {
-    PressKeyOf(lessonWindow, Expected(lessonWindow) == u'q' ? u'p' : u'q');
+    constexpr quint32 placeOfQ = 16;
+    constexpr quint32 placeOfP = 25;
+    const char16_t expected = Expected(lessonWindow);
+    const bool isQ = expected == u'q' || expected == u'ض';
+    PressPlace(lessonWindow, 0, isQ ? placeOfP : placeOfQ);
 }
 
 } // namespace keyfluent::shell
