@@ -38,8 +38,8 @@ void PlaceControls(Lesson& lesson)
     lesson.ScaleMark(3).box = {1560, 6795, 600, 225};
     lesson.ScaleMark(1).box = {2753, 6795, 600, 225};
     lesson.ScaleMark(2).box = {3945, 6795, 600, 225};
-    lesson.ScaleMark(4).box = {7440, 6795, 375, 225};
-    lesson.ScaleMark(6).box = {7815, 6795, 600, 225};
+    lesson.ScaleMark(4).box = {7440, 6795, 270, 225};
+    lesson.ScaleMark(6).box = {7710, 6795, 450, 225}; // the middle over a sixth of the gauge
     lesson.ScaleMark(5).box = {9825, 6795, 600, 225};
     lesson.lblMark.box = {2760, 7365, 600, 270};
     lesson.lblResulotion.box = {1560, 7365, 1200, 270};
@@ -89,18 +89,19 @@ void ShowFirstRow(Lesson& lesson)
     lesson.errorCount = 0;
 }
 
-// A hand's picture is its own size; the two stand the same way from the middle of the window.
+// A hand's picture is its own size; the two stand the same way from the middle of the window, and
+// in the wide layout on the frame of the gauges.
 void PlaceHands(Lesson& lesson)
 {
     constexpr int middle = lessonWidth / 2;
     constexpr int gap = 420;
-    constexpr int top = 4170;
+    constexpr int bottom = 6600;
     lesson.handPictureOffset = lesson.context.colouredHands ? colouredHandOffset : 0;
     const bool coloured = lesson.handPictureOffset != 0;
     const int width = coloured ? 2130 : 1920;
     const int height = coloured ? 2430 : 2205;
-    lesson.imgLeftHand.box = {middle - gap - width, top, width, height};
-    lesson.imgRightHand.box = {middle + gap, top, width, height};
+    lesson.imgLeftHand.box = {middle - gap - width, bottom - height, width, height};
+    lesson.imgRightHand.box = {middle + gap, bottom - height, width, height};
     lesson.imgLeftHand.bitmap = leftHandAtRest + lesson.handPictureOffset;
     lesson.imgRightHand.bitmap = rightHandAtRest + lesson.handPictureOffset;
 }
@@ -281,15 +282,16 @@ void CaptionInArabic(Lesson& lesson)
     for (Label* label : {&lesson.lblChar, &lesson.lblResulotion}) {
         label->rightToLeft = true;
         label->rightAligned = true;
-        label->box.width = 1290;
     }
     // A number stands at the left of its caption here.
     lesson.lblSpeed.box.left = 8715;
     lesson.lblSpeed.box.width = 435;
     lesson.lblChar.box.left = 9150;
+    lesson.lblChar.box.width = 1290;
     lesson.lblMark.box.left = 1725;
     lesson.lblMark.box.width = 435;
     lesson.lblResulotion.box.left = 2160;
+    lesson.lblResulotion.box.width = 1125;
 }
 
 void CaptionWindow(Lesson& lesson)

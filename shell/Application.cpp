@@ -4,6 +4,7 @@
 #include "shell/Program.h"
 #include "shell/base/Boxes.h"
 #include "shell/base/ImageControl.h"
+#include "shell/base/MenuStyle.h"
 #include "shell/platform/CapsLock.h"
 #include "shell/platform/Fonts.h"
 #include "shell/platform/PlatformRecord.h"
@@ -19,7 +20,6 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QTimer>
 
 #include <csignal>
@@ -59,11 +59,12 @@ void ShowCritical(const QString& text)
 // The same looks on every desktop.
 void SetLooks()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new MenuStyle(QStringLiteral("Fusion")));
     QPalette palette = QApplication::style()->standardPalette();
     palette.setColor(QPalette::Highlight, QColor(0x26, 0x73, 0x7A));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x6F, 0x7C, 0x84));
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x6F, 0x7C, 0x84));
     QApplication::setPalette(palette);
     LoadFonts();
     QApplication::setFont(FormFont(10, false));
@@ -91,7 +92,7 @@ Desktop RealDesktop(Machine& machine)
     desktop.screenSize = [] { return QGuiApplication::primaryScreen()->size(); };
     desktop.isFirstInstance = [&machine] { return machine.instance.Acquire(); };
     desktop.showCritical = ShowCritical;
-    desktop.showMessage = [](const QString& text) { ShowMessage(QMessageBox::NoIcon, text); };
+    desktop.showMessage = [](const QString& text) { ShowMessage(QMessageBox::Information, text); };
     desktop.startSystemInformation = [] { return ShowSystemInformation(); };
     desktop.pickColour = PickColour;
     desktop.printPages = PrintPages;

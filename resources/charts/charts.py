@@ -314,7 +314,8 @@ def whole_keyboard(tables):
     for hand, x in (("left", 26), ("right", 545 - 26 - 128 * 1.3)):
         used = {finger for side, finger in told.values() if side == hand}
         body.append(coloured_hand(hand, used, x, 196, 1.3))
-    body.append(names_of_fingers(300, 252, 31))
+    # The lowest thirty pixels are the caption's of the window that shows the chart.
+    body.append(names_of_fingers(300, 234, 31))
     return framed(545, 416, "".join(body))
 
 
@@ -355,6 +356,10 @@ def laid_hand(hand, guide, keys):
     return LaidHand(hand, used, aims=aims, moved=(0.0, 13.0))
 
 
+# The window that shows this chart writes its caption over the end of the picture.
+CAPTION_ROOM = 16
+
+
 def guide_row(tables):
     guide, told = guide_caps(tables), strikers(tables)
     keys = {cap: VIEWS[148].key(tables, cap) for cap in MAIN_BLOCK}
@@ -370,7 +375,7 @@ def guide_row(tables):
     for hand in ("left", "right"):
         laid = laid_hand(hand, guide, keys)
         body += [laid.whole(0.85), laid.coloured_fingers()]
-    return framed(500, 270, "".join(body) + "</g>")
+    return framed(500, 270, "".join(body) + "</g>", CAPTION_ROOM)
 
 
 CHARTS = {146: whole_keyboard, 147: numeric_pad, 148: guide_row}

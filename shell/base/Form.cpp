@@ -258,8 +258,7 @@ void Form::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (striped_) {
         PaintStripes(painter, event->region().boundingRect());
-        painter.setPen(Qt::black);
-        painter.drawRect(0, 0, width() - 1, height() - 1);
+        PaintFrame(painter, rect(), Qt::black);
         painter.fillRect(0, titleRule, width(), 1, Qt::black);
     }
     PaintExtra(painter);
@@ -328,6 +327,15 @@ void PaintStripes(QPainter& painter, const QRect& place)
     for (int y = place.top(); y <= place.bottom(); ++y) {
         painter.fillRect(place.left(), y, place.width(), 1, stripes[y % 4]);
     }
+}
+
+// Not as an outline: its pen would lie askew on the pixels of a dense screen.
+void PaintFrame(QPainter& painter, const QRect& place, const QColor& colour)
+{
+    painter.fillRect(place.left(), place.top(), place.width(), 1, colour);
+    painter.fillRect(place.left(), place.bottom(), place.width(), 1, colour);
+    painter.fillRect(place.left(), place.top(), 1, place.height(), colour);
+    painter.fillRect(place.right(), place.top(), 1, place.height(), colour);
 }
 
 } // namespace keyfluent::shell

@@ -149,5 +149,7 @@ private:
 
 // The pin-stripes of a rectangle of a window, counted from the window's top.
 void PaintStripes(QPainter& painter, const QRect& place);
+// The outermost pixels of a rectangle, one wide.
+void PaintFrame(QPainter& painter, const QRect& place, const QColor& colour);
 
 } // namespace keyfluent::shell

@@ -73,10 +73,16 @@ void TextLabel::SetReading(bool arabic)
     SetSide(arabic ? Side::Right : Side::Left);
 }
 
+void TextLabel::ReadByLetters()
+{
+    readsByLetters_ = true;
+    update();
+}
+
 QTextOption TextLabel::Option(Side side) const
 {
     QTextOption option;
-    option.setTextDirection(layoutDirection());
+    option.setTextDirection(readsByLetters_ ? Qt::LayoutDirectionAuto : layoutDirection());
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     switch (side) {
     case Side::Left:

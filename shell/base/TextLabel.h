@@ -26,6 +26,8 @@ public:
     void SetRightToLeft(bool rightToLeft);
     // Right to left and at the right side in Arabic; left to right and at the left side otherwise.
     void SetReading(bool arabic);
+    // Each paragraph reads the way of its first letter, whatever the direction of the label.
+    void ReadByLetters();
 
     // What the text takes at a width, in pixels.
     QSize NeededSize(int width) const;
@@ -58,6 +60,7 @@ private:
 
     Side side_ = Side::Left;
     bool numberApart_ = false;
+    bool readsByLetters_ = false;
     bool down_ = false;
 };
 

@@ -73,7 +73,7 @@ void dlgOptions::AddNote()
     constexpr double largest = 11;
     constexpr double smallest = 8;
     const bool rightToLeft = state().arabicExercise || state().arabicAnagram;
-    const QRect place(24, 33, formWidth - 48, rule - 38);
+    const QRect place(ruleMargin, 33, formWidth - 2 * ruleMargin, rule - 38);
     TextLabel* note = AddLabel(
         "lblText", place,
         course::ExerciseNote(state().lessonNo, state().exerciseNo, state().arabicExercise));

@@ -61,8 +61,9 @@ frmDiploma::frmDiploma(Program& program)
             add(name, {textLeft, windowTop + OnWindow(top), textWidth, 34}, text, points, bold);
         label->SetSide(Side::Centre);
         label->FitFace([bold](double size) { return DiplomaFont(size, bold); }, points, smallest);
+        return label;
     };
-    centred("lblName", nameTop, texts_.name, 14.5, true);
+    centred("lblName", nameTop, texts_.name, 14.5, true)->ReadByLetters();
     centred("lblCourse", courseTop, texts_.course, 10, false);
     add("lblDate", {windowLeft + OnWindow(dateLeft), windowTop + OnWindow(dateTop), 200, 22},
         texts_.date, 8.75, false);
@@ -101,7 +102,10 @@ void DrawDiplomaPage(QPainter& painter, const progress::DiplomaTexts& texts, QSi
                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip | Qt::TextSingleLine,
                          ToQString(text));
     };
+    // The name reads the way of its letters, all else is English in both interfaces.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     centred(texts.name, 20, true, nameTop);
+    painter.setLayoutDirection(Qt::LeftToRight);
     centred(texts.course, 14, false, courseTop);
     painter.setFont(InTwips(12, false));
     painter.drawText(QRect(corner.x() + dateLeft, corner.y() + dateTop, 6000, 480),

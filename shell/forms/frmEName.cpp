@@ -26,6 +26,7 @@ frmEName::frmEName(Program& program)
     txtName_->setObjectName(QStringLiteral("txtName"));
     txtName_->setMaxLength(static_cast<int>(progress::nameLimit));
     txtName_->setFont(FormFont(11, false));
+    txtName_->setTextMargins(4, 0, 4, 0);
     txtName_->setGeometry(left, 98, 280, 28);
     txtName_->setLayoutDirection(arabic ? Qt::RightToLeft : Qt::LeftToRight);
     txtName_->setAlignment((arabic ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);

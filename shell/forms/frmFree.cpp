@@ -31,6 +31,7 @@ frmFree::frmFree(Program& program) : Form(program, "frmFree", {460, 230})
     txtFree_ = new QLineEdit(this);
     txtFree_->setObjectName(QStringLiteral("txtFree"));
     txtFree_->setFont(FormFont(11, false));
+    txtFree_->setTextMargins(4, 0, 4, 0);
     txtFree_->setGeometry(30, 98, 400, 28);
     txtFree_->setAccessibleName(
         findChild<TextLabel*>(QStringLiteral("lblDesc"))->text().simplified());

@@ -147,8 +147,9 @@ void frmLesson::BuildLabels()
     AddRecordLabel("lblTimer", lesson_.lblTimer, Side::Centre)->setFont(FormFont(12, true));
     AddRecordLabel("lblResulotion", lesson_.lblResulotion, reading);
     AddRecordLabel("lblChar", lesson_.lblChar, reading);
-    AddRecordLabel("lblMark", lesson_.lblMark, Side::Left)->setFont(FormFont(9, true));
-    AddRecordLabel("lblSpeed", lesson_.lblSpeed, Side::Left)->setFont(FormFont(9, true));
+    // On the side of their captions.
+    AddRecordLabel("lblMark", lesson_.lblMark, reading)->setFont(FormFont(9, true));
+    AddRecordLabel("lblSpeed", lesson_.lblSpeed, reading)->setFont(FormFont(9, true));
     constexpr Side sides[] = {Side::Centre, Side::Right, Side::Left,
                               Side::Left,   Side::Right, Side::Centre};
     for (int number = 1; number <= session::scaleMarkCount; ++number) {
@@ -375,12 +376,7 @@ void frmLesson::PaintExtra(QPainter& painter)
 {
     painter.fillRect(0, ruleUnderTitle, width(), 1, Qt::black);
     if (lesson_.shape1.visible) {
-        const QColor frame(0x6B, 0x7F, 0x8C);
-        const QRect place = PixelsOf(lesson_.shape1.box);
-        painter.fillRect(place.left(), place.top(), place.width(), 1, frame);
-        painter.fillRect(place.left(), place.bottom(), place.width(), 1, frame);
-        painter.fillRect(place.left(), place.top(), 1, place.height(), frame);
-        painter.fillRect(place.right(), place.top(), 1, place.height(), frame);
+        PaintFrame(painter, PixelsOf(lesson_.shape1.box), QColor(0x6B, 0x7F, 0x8C));
     } else {
         painter.fillRect(0, ruleWithoutCounter, width(), 1, Qt::black);
     }

@@ -21,9 +21,11 @@ frmLessonDescription::frmLessonDescription(Program& program)
     const bool arabic = Arabic();
     TextLabel* title = AddTitle(course::LessonNoteTitle(state().lessonNo, arabic));
     title->SetRightToLeft(true);
-    // Meant: the note is Arabic in both interfaces, and takes the sides of the interface.
+    // Meant: the note is Arabic in both interfaces, and takes the sides of the interface. Its
+    // points and brackets follow its own letters, or nobody could read it.
     TextLabel* text = AddLabel("lblDescription", {30, Pixels(600), formWidth - 60, 10},
                                state().lessonNoteText, 11);
+    text->ReadByLetters();
     const int height = text->FitHeight() + Pixels(1600);
     setFixedHeight(height);
     const int top = height - Pixels(700);

@@ -248,14 +248,15 @@ class LaidHand:
 # Frames and arrows --------------------------------------------------------------------------
 
 
-def framed(width, height, body):
-    """The picture on its sheet of paper with a rounded frame."""
+def framed(width, height, body, below=0):
+    """The picture on its sheet of paper with a rounded frame; `below` is left free under it."""
+    sheet_height = height - below
     return svg(width, height,
                f'<defs><clipPath id="sheet"><rect x="1" y="1" width="{width - 2}" '
-               f'height="{height - 2}" rx="14"/></clipPath></defs>'
-               f'<g clip-path="url(#sheet)"><rect width="{width}" height="{height}" '
+               f'height="{sheet_height - 2}" rx="14"/></clipPath></defs>'
+               f'<g clip-path="url(#sheet)"><rect width="{width}" height="{sheet_height}" '
                f'fill="{PAPER}"/>{body}</g>'
-               f'<rect x="1" y="1" width="{width - 2}" height="{height - 2}" rx="14" '
+               f'<rect x="1" y="1" width="{width - 2}" height="{sheet_height - 2}" rx="14" '
                f'fill="none" stroke="{INK}" stroke-width="2"/>')
 
 

@@ -42,7 +42,7 @@ QPixmap Failure(bool)
 
 QPixmap NoSystemTool(bool)
 {
-    return Take(*MakeMessage(QMessageBox::NoIcon,
+    return Take(*MakeMessage(QMessageBox::Information,
                              QStringLiteral("System Information Is Unavailable At This Time")));
 }
 
