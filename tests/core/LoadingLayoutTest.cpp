@@ -206,6 +206,34 @@ TEST_F(LoadingLayoutTest, FromThirteenOnTheHandsStandLowerSideBySide)
     EXPECT_EQ(It().imgLeftHand.box.left, left.left);
 }
 
+TEST_F(LoadingLayoutTest, BothSetsOfHandsEndAtTheFrameOfTheWideLayout)
+{
+    for (const bool coloured : {false, true}) {
+        context.colouredHands = coloured;
+        context.fontSize = 13;
+        Open();
+        for (const Box& hand : {It().imgLeftHand.box, It().imgRightHand.box}) {
+            EXPECT_EQ(hand.top + hand.height, It().shape1.box.top);
+        }
+        EXPECT_EQ(It().imgLeftHand.box.left + It().imgLeftHand.box.width - lessonWidth / 2,
+                  lessonWidth / 2 - It().imgRightHand.box.left);
+    }
+}
+
+TEST_F(LoadingLayoutTest, MarksStandOverTheirPlacesOfTheGauges)
+{
+    Open();
+    const auto middle = [](const Box& box) { return 2 * box.left + box.width; };
+    const Box& mark = It().pbMark.box;
+    const Box& speed = It().pbSpeed.box;
+    EXPECT_NEAR(middle(It().ScaleMark(1).box), middle(mark), 15); // half
+    EXPECT_EQ(It().ScaleMark(3).box.left, mark.left);
+    EXPECT_EQ(It().ScaleMark(2).box.left + It().ScaleMark(2).box.width, mark.left + mark.width);
+    EXPECT_NEAR(middle(It().ScaleMark(6).box), 2 * (speed.left + speed.width / 6.0), 15); // 50
+    EXPECT_EQ(It().ScaleMark(4).box.left, speed.left);
+    EXPECT_EQ(It().ScaleMark(5).box.left + It().ScaleMark(5).box.width, speed.left + speed.width);
+}
+
 TEST_F(LoadingLayoutTest, ThePassagesOfTheLastLessonHaveTallFields)
 {
     for (const Language language : {Language::English, Language::Arabic}) {

@@ -26,6 +26,7 @@ private slots:
     void PicturesAreShownAtTheScreensDensity();
     void TextsAreDrawnAtTheScreensDensity();
     void StripesStayWholePixelsOfTheLayout();
+    void FramesAreTheOutermostPixels();
     void TheBackdropIsAsSharpAsTheScreen_data();
     void TheBackdropIsAsSharpAsTheScreen();
 };
@@ -127,6 +128,28 @@ void FormDensityTest::StripesStayWholePixelsOfTheLayout()
     for (int y = 60; y < shot.height() - 4; ++y) {
         QCOMPARE(shot.pixel(5, y), stripes[y / 2 % 4]);
     }
+}
+
+void FormDensityTest::FramesAreTheOutermostPixels()
+{
+    World world;
+    PlaceStudent(world);
+    const std::unique_ptr<Form> window = MakeForm(world, "frmNotAllowed");
+    const QImage shot = window->grab().toImage();
+    const int right = shot.width() - 1;
+    const int bottom = shot.height() - 1;
+    for (int y = 0; y <= bottom; ++y) {
+        for (const int x : {0, 1, right - 1, right}) {
+            QCOMPARE(shot.pixel(x, y), qRgb(0, 0, 0));
+        }
+    }
+    for (int x = 0; x <= right; ++x) {
+        for (const int y : {0, 1, bottom - 1, bottom}) {
+            QCOMPARE(shot.pixel(x, y), qRgb(0, 0, 0));
+        }
+    }
+    QVERIFY(shot.pixel(right - 2, 80) != qRgb(0, 0, 0));
+    QVERIFY(shot.pixel(2, 80) != qRgb(0, 0, 0));
 }
 
 void FormDensityTest::TheBackdropIsAsSharpAsTheScreen_data()

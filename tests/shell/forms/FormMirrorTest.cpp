@@ -27,6 +27,10 @@ private slots:
     void TheAnagramsBoxStandsWhereItIsTold();
     void TheChoosersColumnsStayAndTheirCellsTurn();
     void TheToolkitMirrorsNothingByItself();
+    void TheLessonsNoteReadsAsArabicAtTheSideOfTheInterface();
+    void ANameOnTheDiplomaReadsTheWayOfItsLetters();
+    void NamesArePlainTextWhateverTheyHold();
+    void FieldsKeepTheirTextFromTheirEdges();
 };
 
 namespace
@@ -66,6 +70,18 @@ std::pair<int, int> Gaps(const TextLabel& label)
 {
     const QRect ink = InkOf(label).boundingRect();
     return {ink.left() - label.geometry().left(), label.geometry().right() - ink.right()};
+}
+
+// What a label's text would be if it read from the right or from the left as a whole.
+QRegion InkReading(const TextLabel& label, bool rightToLeft, Side side)
+{
+    TextLabel expected(nullptr);
+    expected.setFont(label.font());
+    expected.resize(label.size());
+    expected.SetRightToLeft(rightToLeft);
+    expected.SetSide(side);
+    expected.setText(label.text());
+    return InkOf(expected);
 }
 
 } // namespace
@@ -240,6 +256,55 @@ void FormMirrorTest::TheToolkitMirrorsNothingByItself()
         World world(true);
         PlaceStudent(world);
         QCOMPARE(maker.make(world)->layoutDirection(), Qt::LeftToRight);
+    }
+}
+
+void FormMirrorTest::TheLessonsNoteReadsAsArabicAtTheSideOfTheInterface()
+{
+    const BothLanguages both("frmLessonDescription");
+    const TextLabel& english = Label(*both.inEnglish, "lblDescription");
+    QCOMPARE(english.layoutDirection(), Qt::LeftToRight);
+    QVERIFY(Gaps(english).first <= 3);
+    QCOMPARE(InkOf(english).translated(-english.pos()), InkReading(english, true, Side::Left));
+}
+
+void FormMirrorTest::ANameOnTheDiplomaReadsTheWayOfItsLetters()
+{
+    for (const bool arabicName : {false, true}) {
+        World world;
+        PlaceStudent(world);
+        world.state().studentName = arabicName ? u"محمد Ali" : u"Ali محمد";
+        const std::unique_ptr<Form> window = MakeForm(world, "frmDiploma");
+        const TextLabel& name = Label(*window, "lblName");
+        QCOMPARE(InkOf(name).translated(-name.pos()), InkReading(name, arabicName, Side::Centre));
+    }
+}
+
+void FormMirrorTest::NamesArePlainTextWhateverTheyHold()
+{
+    for (const char* form : {"DlgWelcome", "frmWelcome", "DlgGBye", "frmDiploma"}) {
+        World world;
+        PlaceStudent(world);
+        world.state().studentName = u"<b>A&B<b>";
+        const std::unique_ptr<Form> window = MakeForm(world, form);
+        bool found = false;
+        for (const TextLabel* label : window->findChildren<TextLabel*>()) {
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+            found = found || label->text().contains(QStringLiteral("<b>A&B<b>"));
+        }
+        QVERIFY2(found, form);
+    }
+}
+
+void FormMirrorTest::FieldsKeepTheirTextFromTheirEdges()
+{
+    for (const auto& [form, field] : {std::pair{"frmEName", "txtName"}, {"frmFree", "txtFree"}}) {
+        const BothLanguages both(form);
+        for (const Form* window : {both.inEnglish.get(), both.inArabic.get()}) {
+            const auto& line = static_cast<const QLineEdit&>(Control(*window, field));
+            QVERIFY(line.textMargins().left() >= 4);
+            QVERIFY(line.textMargins().right() >= 4);
+        }
     }
 }
 

@@ -30,6 +30,7 @@ private slots:
     void EveryPictureStandsInItsFrame();
     void CaptionsOfPictures_data();
     void CaptionsOfPictures();
+    void CaptionsStandClearOfWhatThePictureShows();
     void ThePictureClosesByAClickOrEscape_data();
     void ThePictureClosesByAClickOrEscape();
     void NoOtherKeyClosesThePicture();
@@ -401,6 +402,26 @@ void PagesFormTest::TheDesktopsToolIsStartedOrItsAbsenceTold()
         QCOMPARE(world.toolStarts, 2);
         const QString absent = QStringLiteral("System Information Is Unavailable At This Time");
         QCOMPARE(world.messages, found ? QStringList() : QStringList({absent, absent}));
+    }
+}
+
+void PagesFormTest::CaptionsStandClearOfWhatThePictureShows()
+{
+    constexpr int air = 3; // pixels
+    for (const int bitmap : {146, 147, 148}) {
+        World world;
+        world.Draw(bitmap, 138, 157);
+        frmImage window(world.program());
+        const ImageControl& picture = Picture(window, "Image1");
+        const QRect caption = InkOf(Label(window, "lblT1")).boundingRect();
+        const QRect beneath =
+            caption.adjusted(-air, -air, air, air).translated(-picture.pos()) & picture.rect();
+        const QImage shown(QStringLiteral(":/pictures/%1.png").arg(bitmap));
+        for (int y = beneath.top(); y <= beneath.bottom(); ++y) {
+            for (int x = beneath.left(); x <= beneath.right(); ++x) {
+                QCOMPARE(shown.pixel(x, y), shown.pixel(beneath.topLeft()));
+            }
+        }
     }
 }
 
