@@ -80,12 +80,6 @@ void SendKey(QWidget& window, QEvent::Type type, int key, quint32 place)
     QCoreApplication::sendEvent(window.windowHandle(), &event);
 }
 
-void PressPlace(QWidget& window, int key, quint32 place)
-{
-    SendKey(window, QEvent::KeyPress, key, place);
-    SendKey(window, QEvent::KeyRelease, key, place);
-}
-
 void PressKeyOf(QWidget& window, char16_t character)
 {
     if (character == context::lineEndMark) {
@@ -110,6 +104,25 @@ void PressKeyOf(QWidget& window, char16_t character)
 }
 
 } // namespace
+
+void PressDown(QWidget& lessonWindow, int key, unsigned int place)
+{
+    SendKey(lessonWindow, QEvent::KeyPress, key, place);
+}
+
+void LetGo(QWidget& lessonWindow, int key, unsigned int place)
+{
+    SendKey(lessonWindow, QEvent::KeyRelease, key, place);
+}
+
+void PressPlace(QWidget& lessonWindow, int key, unsigned int place)
+{
+    const QPointer<QWidget> window(&lessonWindow);
+    PressDown(lessonWindow, key, place);
+    if (window != nullptr) {
+        LetGo(lessonWindow, key, place);
+    }
+}
 
 void TypeRight(QWidget& lessonWindow, int keys)
 {

@@ -14,4 +14,9 @@ void TypeToTheEnd(QWidget& lessonWindow);
 // A key that is wrong for the expected character, whatever that is: "q", or "p" where "q" is right.
 void TypeWrong(QWidget& lessonWindow);
 
+// The key of a place, as the kernel numbers places; key is the toolkit's name for it, 0 for none.
+void PressDown(QWidget& lessonWindow, int key, unsigned int place);
+void LetGo(QWidget& lessonWindow, int key, unsigned int place);
+void PressPlace(QWidget& lessonWindow, int key, unsigned int place);
+
 } // namespace keyfluent::shell
