@@ -15,13 +15,17 @@ namespace
 // In parts of the font's size; room for a letter with two vowel marks.
 constexpr double lineHeight = 1.4;
 
+// In pixels. The preferences file may hold any number of points; a size beyond the smallest screen
+// shows nothing more.
+constexpr double largestSize = 600;
+
 } // namespace
 
 QFont FieldFont(const QFont& base, int points, bool rightToLeft)
 {
     QFont font = base;
     if (points > 0) {
-        font.setPixelSize(std::max(qRound(points * 96 / 72.0), 1));
+        font.setPixelSize(qRound(std::clamp(points * 96.0 / 72.0, 1.0, largestSize)));
     } else {
         font.setPixelSize(std::max(QFontInfo(QFont()).pixelSize(), 1));
     }

@@ -19,10 +19,10 @@ inline constexpr int frameWidth = 1;
 inline constexpr int sidePadding = 6;
 inline constexpr int topPadding = 2;
 
-// base at points, 96 to the inch, whatever the desktop's own scale; 0 points or less are the
-// toolkit's default size. base names an Arabic face and then a Latin one. In a left-to-right field
-// the Latin face comes first, so that blanks, digits and signs match its letters, and no two
-// letters are drawn as one sign, so that each can be lit alone.
+// base at points, 96 to the inch, whatever the desktop's own scale, but at most 600 pixels; 0
+// points or less are the toolkit's default size. base names an Arabic face and then a Latin one. In
+// a left-to-right field the Latin face comes first, so that blanks, digits and signs match its
+// letters, and no two letters are drawn as one sign, so that each can be lit alone.
 QFont FieldFont(const QFont& base, int points, bool rightToLeft);
 
 // Vertical measures of a line, the same whatever stands on it, in pixels.

@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QWheelEvent>
 
+#include <limits>
+
 namespace keyfluent::shell
 {
 class RowViewTest : public QObject
@@ -84,6 +86,22 @@ private slots:
         stage.view.Show(field);
         const QRect letter = stage.view.Canvas().LetterRect(0);
         QVERIFY(std::abs(letter.top() - (80 - 1 - letter.bottom())) <= 1);
+    }
+
+    // The preferences file may hold any number.
+    void AnySizeOfTheTextCanBeShown()
+    {
+        for (const int points : {std::numeric_limits<int>::max(), 22369622, 100000, 1, 0, -1,
+                                 std::numeric_limits<int>::min()}) {
+            Stage stage(RowView::Keep::Selection, rowSize);
+            session::TextField field = MakeField(latinRow, false, 0, 1);
+            field.fontSize = points;
+            stage.view.Show(field);
+            QVERIFY(!stage.view.Canvas().LetterRect(0).isEmpty());
+            QVERIFY(FieldFont(ExerciseTestFont(), points, false).pixelSize() <= 600);
+        }
+        QCOMPARE(FieldFont(ExerciseTestFont(), std::numeric_limits<int>::max(), false).pixelSize(),
+                 600);
     }
 
     void ScrollingByHandHoldsUntilSomethingChanges()
