@@ -12,6 +12,10 @@
 
 #include <cstdio>
 
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
+
 namespace keyfluent::shell
 {
 
@@ -23,6 +27,17 @@ inline void FailOnWarning()
     QTest::failOnWarning(QRegularExpression(
         QStringLiteral("^(?!This plugin (does not support|supports)|QStandardPaths: )")));
 }
+
+// While it lives, what is allocated may be lost without a report of the sanitizer. For what the
+// toolkit itself loses, and as short as can be.
+#if defined(__SANITIZE_ADDRESS__)
+using LeaksAreForgiven = __lsan::ScopedDisabler;
+#else
+struct LeaksAreForgiven {
+    LeaksAreForgiven() {}
+    ~LeaksAreForgiven() {}
+};
+#endif
 
 inline int RunTests(QObject& test, int argc, char** argv)
 {

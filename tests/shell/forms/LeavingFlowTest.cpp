@@ -324,7 +324,11 @@ void LeavingFlowTest::AFileThatCannotBeWrittenIsToldAndEndsTheProcess()
     // No file can be made there any more.
     QVERIFY(QDir(world.Folder() + QStringLiteral("/Students")).removeRecursively());
     Script script(world);
-    script.Choose("mnuFileQuit").Click("frmLeave", "cmdOK");
+    script.Choose("mnuFileQuit").At("frmLeave", [](QWidget& window) {
+        // A failure leaves the toolkit's functions without clearing up their copy of the click.
+        const LeaksAreForgiven forgiven;
+        Click(window, "cmdOK");
+    });
     QVERIFY2(script.Run(), script.Report());
     QCOMPARE(world.failures.size(), 1);
     QVERIFY(world.failures.front().contains(QStringLiteral("Ali.W")));
