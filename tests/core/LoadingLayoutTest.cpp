@@ -88,6 +88,15 @@ TEST_F(LoadingLayoutTest, TheHandsRestInTheChosenSet)
     EXPECT_EQ(It().handPictureOffset, 1000);
 }
 
+// Before the window comes to the front there is no character to show.
+TEST_F(LoadingLayoutTest, TheHandsRestUntilTheWindowIsActive)
+{
+    context.colouredHands = true;
+    LoadOnly();
+    EXPECT_EQ(It().imgLeftHand.bitmap, 1113);
+    EXPECT_EQ(It().imgRightHand.bitmap, 1119);
+}
+
 TEST_F(LoadingLayoutTest, AChangeOfTheHandsCountsFromTheNextExercise)
 {
     Open(1, 1, Language::English);

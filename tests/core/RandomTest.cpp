@@ -55,6 +55,16 @@ TEST(Random, NumbersFillTheirRangeEvenly)
     }
 }
 
+// The first numbers that SplitMix64 gives from its own constant on.
+TEST(Random, NumbersAreThoseOfTheNamedGenerator)
+{
+    RandomGenerator generator;
+    for (const std::uint64_t number :
+         {0x6E789E6AA1B965F4U, 0x06C45D188009454FU, 0xF88BB8A8724C81ECU, 0x1B39896A51A8749BU}) {
+        EXPECT_EQ(generator.Next() * 0x1.0p53, static_cast<double>(number >> 11));
+    }
+}
+
 TEST(Random, SeedingAtOneMomentDoesNotRepeatADraw)
 {
     RandomGenerator generator;

@@ -147,6 +147,17 @@ TEST(Text, EveryByteThatIsNotUtf8BecomesTheReplacementCharacter)
     }
 }
 
+TEST(Text, NoOtherByteBeginsACharacter)
+{
+    for (int first = 0x80; first <= 0xFF; ++first) {
+        if (first >= 0xC2 && first <= 0xF4) {
+            continue;
+        }
+        const std::string bytes = std::string(1, static_cast<char>(first)) + "\x90\x80\x80";
+        EXPECT_EQ(FromUtf8(bytes), u"\uFFFD\uFFFD\uFFFD\uFFFD") << first;
+    }
+}
+
 TEST(Text, EmptyTextsStayEmpty)
 {
     EXPECT_EQ(ToUtf8(u""), "");
