@@ -2,7 +2,7 @@
 """Runs random scripts against the console and the model, and shows the first line that differs.
 
 usage: compare.py CONSOLE [--seed N] [--scripts N] [--seconds S] [--kind NAME] [--keep FOLDER]
-       compare.py CONSOLE --sweeps
+       compare.py CONSOLE --sweeps [--no-shrink]
        compare.py CONSOLE --script FILE
 
 Each script is one process start in a folder of its own. Answers, the line on standard error, the
@@ -114,13 +114,14 @@ def difference(expectation, outcome):
     error = ERROR_LINE.match(outcome.errors)
     error_at = int(error[1]) if error and outcome.status == 2 else None
     steps = expectation.steps
+    given = len(outcome.answers)
     lenient = None
     if error_at is not None and (wanted_status, at) != (2, error_at):
         lenient = next((s for s in steps if s.may_fail and s.number == error_at), None)
-    elif outcome.status == 3 and wanted_status != 3:
+    elif outcome.status == 3 and (wanted_status != 3 or given < sum(len(s.answers) for s in steps)):
         count = 0
         for step in steps:
-            if step.may_fail and count == len(outcome.answers):
+            if step.may_fail and count == given:
                 lenient = step
             count += len(step.answers)
     if lenient is not None:
@@ -288,9 +289,12 @@ def save(folder, name, lines):
 
 
 def report(arguments, name, kind, lines, first, wording):
-    whole = save(arguments.keep, f"{name}.console", lines)
     number, text = first
     command = lines[number - 1] if number and number <= len(lines) else "the end"
+    if arguments.no_shrink:
+        print(f"{kind}, {name}, line {number}: {command}\n{text}", flush=True)
+        return
+    whole = save(arguments.keep, f"{name}.console", lines)
     print(f"{kind}, {whole}, line {number}: {command}\n{text}")
     short = shrink(arguments.console, lines, wording, first)
     path = save(arguments.keep, f"{name}.short.console", short)
@@ -311,6 +315,7 @@ def parsed():
     parser.add_argument("--kind", help="only scripts of this kind")
     parser.add_argument("--sweeps", action="store_true", help="go through all tables instead")
     parser.add_argument("--keep", default="model-differences", metavar="FOLDER")
+    parser.add_argument("--no-shrink", action="store_true", help="save no script, cut none down")
     parser.add_argument("--script", metavar="FILE", help="check one script")
     parser.add_argument("--going", type=int, default=1, metavar="N",
                         help="go on until so many different commands differ")
