@@ -15,7 +15,8 @@ build_packages="g++ cmake ninja-build python3 librsvg2-bin qt6-base-dev libx11-d
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev libhunspell-dev hunspell-en-us
     hunspell-ar pkg-config clang-format xdotool x11-xkb-utils x11-utils dbus-x11 at-spi2-core
     python3-pyatspi python3-xlib python3-gi gir1.2-atspi-2.0 poppler-utils weston qt6-wayland
-    desktop-file-utils appstream mandoc"
+    desktop-file-utils appstream mandoc cups-daemon cups-client cups-filters
+    printer-driver-cups-pdf"
 package_packages="dpkg-dev lintian man-db desktop-file-utils appstream debootstrap git
     procps dbus x11-xkb-utils python3-xlib"
 

@@ -56,6 +56,15 @@ void ShowCritical(const QString& text)
     ShowMessage(QMessageBox::Critical, text);
 }
 
+// The toolkit's own dialogs reckon with the size in points, which a face in pixels does not have.
+QFont InPoints(QFont font)
+{
+    constexpr double pointsPerInch = 72;
+    const double pixelsPerInch = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    font.setPointSizeF(font.pixelSize() * pointsPerInch / pixelsPerInch);
+    return font;
+}
+
 // The same looks on every desktop.
 void SetLooks()
 {
@@ -67,7 +76,7 @@ void SetLooks()
     palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x6F, 0x7C, 0x84));
     QApplication::setPalette(palette);
     LoadFonts();
-    QApplication::setFont(FormFont(10, false));
+    QApplication::setFont(InPoints(FormFont(10, false)));
 }
 
 // An X server first, also beside a Wayland compositor: there Caps Lock is known from the start. One

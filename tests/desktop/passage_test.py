@@ -23,7 +23,7 @@ class Passage(case.DesktopTest):
         typed[wrong_letter] = "x"
         typed[swapped], typed[swapped + 1] = passage[swapped + 1], passage[swapped]
         faulty = "".join(typed)
-        self.type_passage(lesson, faulty)
+        lesson.type_passage(faulty, keys.ENGLISH)
         lesson.wait(lambda: self.errors(lesson) == 3, "the review tells three differences")
         self.assertEqual(lesson.fields()[0].text, passage)
         lesson.origin, lesson.copy = lesson.fields()
@@ -42,15 +42,6 @@ class Passage(case.DesktopTest):
         self.leave("yes")
         expected = StudentFile(reached_windows=15).set_mark(15, 1, False, mark)
         self.assertEqual(self.folder.student("Layla").read_bytes(), expected.bytes())
-
-    def type_passage(self, lesson, text):
-        """A line's end is one key, which puts in the mark and both characters after it. The last
-        line waits for the clock, since the speed of what took no time has no number."""
-        last_line = text.rindex("\n") + 1
-        self.type(text[:last_line].replace("\r\n", ""), keys.ENGLISH)
-        lesson.copy_becomes(text[:last_line])
-        lesson.wait(lambda: lesson.says(r"00:0[1-9]"), "the clock shows a second")
-        self.type(text[last_line:], keys.ENGLISH)
 
     @staticmethod
     def errors(lesson):

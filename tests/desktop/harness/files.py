@@ -18,13 +18,20 @@ class StudentFile:
         self.numbers[0] = reached_macintosh
         self.numbers[5] = reached_windows
 
-    def set_mark(self, lesson, exercise, arabic, mark):
-        """A mark on the Windows keyboard."""
-        self.numbers[self._index(lesson, exercise, arabic)] = mark
+    def set_mark(self, lesson, exercise, arabic, mark, keyboard=WINDOWS):
+        self.numbers[self._index(lesson, exercise, arabic, keyboard)] = mark
         return self
 
-    def mark(self, lesson, exercise, arabic):
-        return self.numbers[self._index(lesson, exercise, arabic)]
+    def mark(self, lesson, exercise, arabic, keyboard=WINDOWS):
+        return self.numbers[self._index(lesson, exercise, arabic, keyboard)]
+
+    def take_diploma(self, day_month_year, *keyboards):
+        """The diploma's mark and date, and those of both courses on each of the keyboards."""
+        self.numbers[1] = 100
+        self.numbers[307:310] = day_month_year
+        for keyboard in keyboards:
+            first = 7 if keyboard == WINDOWS else 2
+            self.numbers[first:first + 2] = 100, 100
 
     def bytes(self):
         return struct.pack("<310h", *self.numbers)
@@ -38,8 +45,8 @@ class StudentFile:
         return made
 
     @staticmethod
-    def _index(lesson, exercise, arabic):
-        record = lesson + 16
+    def _index(lesson, exercise, arabic, keyboard):
+        record = lesson + (16 if keyboard == WINDOWS else 1)
         return (record - 1) * 10 + (0 if arabic else 5) + exercise - 1
 
 

@@ -29,7 +29,7 @@ ENGLISH = _table(
     (_TOP, False, "qwertyuiop  "),
     (_HOME, False, "asdfghjkl;'"),
     (_BOTTOM, False, "zxcvbnm,./"),
-    (_NUMBERS, True, "!       () +"),
+    (_NUMBERS, True, "!       ()_+"),
     (_TOP, True, "QWERTYUIOP  "),
     (_HOME, True, 'ASDFGHJKL:"'),
     (_BOTTOM, True, "ZXCVBNM  ?"),
@@ -43,4 +43,15 @@ ARABIC = _table(
     (_BOTTOM, False, "ئءؤر ىةوزظ"),
     ((43, 42, 29, 57), True, "أ إآ"),
     ((55, 45, 60, 61, 33), True, "{،.؟؛"),
+    ((49,), False, "ذ"),
+    ((10, 47), True, "!:"),
+)
+
+ARABIC_MACINTOSH = _table(
+    (_NUMBERS, False, "1234567890-="),
+    (_TOP, False, "ضصثقفغعهخحجة"),
+    (_HOME, False, "شسيبلاتنمك؛"),
+    (_BOTTOM, False, "ظطذدزرو،./"),
+    ((40, 43, 54, 55, 56, 57, 58), True, "ىآئءأإؤ"),
+    ((10, 47, 61), True, "!:؟"),
 )

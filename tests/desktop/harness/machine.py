@@ -62,6 +62,12 @@ def is_isolated():
     return os.environ.get(_ISOLATED) == "yes"
 
 
+def is_superuser():
+    """Of the whole machine, not only of a view of it that stands for one ordinary user."""
+    with open("/proc/self/uid_map", encoding="ascii") as users:
+        return os.geteuid() == 0 and users.read().split()[2] == str(2**32 - 1)
+
+
 def forget_isolation(environment):
     """A script started with this environment isolates itself anew."""
     environment.pop(_ISOLATED, None)

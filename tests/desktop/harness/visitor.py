@@ -283,3 +283,13 @@ class Lesson:
         while self.is_open():
             rows.append(self.type_row(table))
         return rows
+
+    def type_passage(self, text, table):
+        """Types a whole passage. A line's end is one key, which puts in the mark and both characters
+        after it. The last line waits for the clock, since the speed of what took no time has no
+        number."""
+        last_line = text.rindex("\n") + 1
+        self.visitor.type(text[:last_line].replace("\r\n", ""), table)
+        self.copy_becomes(text[:last_line])
+        self.wait(lambda: self.says(r"00:0[1-9]"), "the clock shows a second")
+        self.visitor.type(text[last_line:], table)

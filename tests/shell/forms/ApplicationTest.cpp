@@ -1,9 +1,11 @@
 // What the application object does with the events of all windows.
 #include "shell/Application.h"
+#include "shell/platform/Fonts.h"
 
 #include "tests/shell/forms/FormsHarness.h"
 
 #include <QDialog>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -47,6 +49,14 @@ private slots:
     }
 
     void cleanup() { Application().onKey = {}; }
+
+    void TheFaceOfTheToolkitsDialogsHasASizeInPoints()
+    {
+        const QFont face = QApplication::font();
+        QVERIFY(face.pointSizeF() > 0);
+        QCOMPARE(QFontInfo(face).pixelSize(), FormFont(10, false).pixelSize());
+        QCOMPARE(face.families(), FormFont(10, false).families());
+    }
 
     void AKeyIsToldOnceBeforeItsWindowGetsIt()
     {
