@@ -42,13 +42,24 @@ if [ -z "${KEYFLUENT_CHECK_SCRATCH:-}" ]; then
     "$here/scripts/install-packages.sh" package
     KEYFLUENT_CHECK_SCRATCH=$(mktemp -d)
     export KEYFLUENT_CHECK_SCRATCH
-    trap 'rm -rf --one-file-system "$KEYFLUENT_CHECK_SCRATCH"' EXIT
+    inside=
+    finish() {
+        if [ -n "$inside" ]; then
+            kill -KILL "$inside" 2>/dev/null && wait "$inside" || true
+        fi
+        # What has just been ended may still have been writing.
+        rm -rf --one-file-system "$KEYFLUENT_CHECK_SCRATCH" 2>/dev/null ||
+            { sleep 1 && rm -rf --one-file-system "$KEYFLUENT_CHECK_SCRATCH"; }
+    }
+    trap finish EXIT
     trap 'exit 130' INT
     trap 'exit 143' TERM
-    status=0
     set -- ${cache:+--cache "$cache"} ${pictures:+--pictures "$pictures"} ${tests:+--tests} "$what"
-    unshare --mount --pid --fork --kill-child --mount-proc "$here/packaging/check.sh" "$@" ||
-        status=$?
+    unshare --mount --pid --fork --kill-child --mount-proc "$here/packaging/check.sh" "$@" &
+    inside=$!
+    status=0
+    wait "$inside" || status=$?
+    inside=
     exit "$status"
 fi
 scratch=$KEYFLUENT_CHECK_SCRATCH
