@@ -31,6 +31,7 @@ finish() {
     for process in $viewer $manager $server; do
         kill "$process" 2>/dev/null || true
     done
+    [ -z "$server" ] || wait "$server" 2>/dev/null || true
     rm -rf "$scratch"
 }
 trap finish EXIT
