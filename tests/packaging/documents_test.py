@@ -223,17 +223,66 @@ class ManualPages(unittest.TestCase):
         self.assertIn('"totalCount": 1', run.stdout)
 
 
+def tracked_files():
+    told = subprocess.run(["git", "-C", PROJECT, "ls-files", "-z"], check=True,
+                          capture_output=True, text=True).stdout
+    return list(filter(None, told.split("\0")))
+
+
+class ProjectDocuments(unittest.TestCase):
+    """README, CONTRIBUTING and docs/: what they name is there."""
+
+    # What is not in the repository: made by a build, or another folder than the project's.
+    ELSEWHERE = re.compile(r"build(-\w+)?/|[~/]|Students/")
+    PLACEHOLDER = re.compile(r"[A-Z]{4,}|N\b|<")
+    WORDS = {"README.md", "CONTRIBUTING.md", "CHANGELOG.md"}  # capitals that are names
+
+    def setUp(self):
+        self.files = tracked_files()
+        self.texts = {name: (PROJECT / name).read_text(encoding="utf-8") for name in self.files
+                      if name.endswith(".md") and "/" not in name.removeprefix("docs/")}
+        self.assertIn("docs/architecture.md", self.texts)
+
+    def exists(self, path):
+        """A file or folder, named from the root or by the end of its path; * stands for a name."""
+        middle = re.escape(path.rstrip("/")).replace(r"\*", "[^/]*")
+        # A header and its source may be named together.
+        pattern = re.compile(rf"(^|/){middle}(\.(h|cpp))?(/|$)")
+        return any(pattern.search(name) for name in self.files)
+
+    def test_every_path_leads_somewhere(self):
+        checked = 0
+        for name, text in self.texts.items():
+            # What stands apart as a command, and what stands between backticks.
+            told = re.findall(r"`([^`\n]+)`", text)
+            told += [word for line in re.findall(r"(?m)^    (.*)$", text) for word in line.split()]
+            for path in told:
+                path = path.removeprefix("./")
+                if not re.fullmatch(r"[\w.*/-]+", path) or not re.search(r"/|\.(sh|py|md|h)$", path):
+                    continue
+                if self.ELSEWHERE.match(path) or \
+                        path not in self.WORDS and self.PLACEHOLDER.search(path):
+                    continue
+                checked += 1
+                self.assertTrue(self.exists(path), f"{name}: {path}")
+        self.assertGreater(checked, 80)
+
+    def test_every_preset_is_there(self):
+        presets = (PROJECT / "CMakePresets.json").read_text()
+        for name, text in self.texts.items():
+            for preset in re.findall(r"--preset ([\w-]+)", text):
+                self.assertIn(f'"name": "{preset}"', presets, name)
+
+
 class Version(unittest.TestCase):
     def test_the_changelog_tells_of_this_version_first(self):
         self.assertEqual(newest_release()[0], version())
 
     def test_stands_in_one_place(self):
         """The changelog apart, which tells of all of them."""
-        tracked = subprocess.run(["git", "-C", PROJECT, "ls-files", "-z"], check=True,
-                                 capture_output=True, text=True).stdout.split("\0")
         number = re.compile(rf"(?<![\d.]){re.escape(version())}(?![\d.])")
         found = []
-        for name in filter(None, tracked):
+        for name in tracked_files():
             try:
                 text = (PROJECT / name).read_text(encoding="utf-8")
             except (UnicodeDecodeError, FileNotFoundError):
