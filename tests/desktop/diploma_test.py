@@ -1,5 +1,5 @@
-"""All four courses are completed by their last exercises, and the diploma is shown and printed: to a
-file, and through a print service."""
+"""All four courses are completed by their last exercises, and the diploma is shown and printed: to
+a file, and through a print service."""
 import datetime
 import resource
 

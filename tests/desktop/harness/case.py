@@ -11,12 +11,18 @@ _here = None
 
 
 def here():
-    """The one machine of this process."""
+    """The machine that the tests of this process share."""
     global _here
     if _here is None:
-        _here = machine.Machine().start()
-        _here.eyes = screen.Eyes(_here)
+        _here = machine_of_size(machine.SCREEN)
     return _here
+
+
+def machine_of_size(size):
+    """A machine of its own, with a screen of that size in pixels."""
+    made = machine.Machine(size).start()
+    made.eyes = screen.Eyes(made)
+    return made
 
 
 def main():
@@ -26,7 +32,10 @@ def main():
 
 class DesktopTest(Visitor, unittest.TestCase):
     def setUp(self):
-        self.begin(here())
+        self.begin(self.find_machine())
+
+    def find_machine(self):
+        return here()
 
     def tearDown(self):
         """No program says anything on its terminal, but for the report of a failure that a test

@@ -78,7 +78,8 @@ def _end_with_parent():
 
 
 class Machine:
-    def __init__(self):
+    def __init__(self, size=SCREEN):
+        self.size = size
         self.scratch = pathlib.Path(tempfile.mkdtemp(prefix="keyfluent-desktop-"))
         self._processes = []
         self._groups = []
@@ -102,9 +103,8 @@ class Machine:
             except ProcessLookupError:
                 pass
         for process in reversed(self._processes):
-            if process.poll() is None:
+            with process:  # closes its pipes and waits for it
                 process.kill()
-            process.wait()
         self._processes.clear()
         self._groups.clear()
         shutil.rmtree(self.scratch, ignore_errors=True)
@@ -126,7 +126,7 @@ class Machine:
 
     def picture(self, file):
         """A screenshot as a PNG."""
-        width, height = SCREEN
+        width, height = self.size
         pixels = self.pixels(0, 0, width, height)
         rows = bytearray()
         for y in range(height):
@@ -158,7 +158,7 @@ class Machine:
 
     def _start_screen(self):
         number, told = os.pipe()
-        width, height = SCREEN
+        width, height = self.size
         with open(self.scratch / "screen.log", "wb") as log:
             self.run(["Xvfb", "-displayfd", str(told), "-screen", "0", f"{width}x{height}x24",
                       "-nolisten", "tcp", "-noreset"], pass_fds=(told,), stdout=log, stderr=log)

@@ -285,9 +285,9 @@ class Lesson:
         return rows
 
     def type_passage(self, text, table):
-        """Types a whole passage. A line's end is one key, which puts in the mark and both characters
-        after it. The last line waits for the clock, since the speed of what took no time has no
-        number."""
+        """Types a whole passage. A line's end is one key, which puts in the mark and both
+        characters after it. The last line waits for the clock, since the speed of what took no time
+        has no number."""
         last_line = text.rindex("\n") + 1
         self.visitor.type(text[:last_line].replace("\r\n", ""), table)
         self.copy_becomes(text[:last_line])

@@ -63,8 +63,9 @@ class WaylandTest(case.DesktopTest):
         return None
 
     def click(self, node):
-        """No window knows here where on the screen it is, but for the one that fills it. The others'
-        buttons are pressed by assistive technology, and Space stands for a click on a bare one."""
+        """No window knows here where on the screen it is, but for the one that fills it. The
+        others' buttons are pressed by assistive technology, and Space stands for a click on a bare
+        one."""
         window = next(window for window in self.program.windows() if window.has(screen.ACTIVE))
         if window.place[2:] == SCREEN:
             self.pointer.click(*centre(node))
