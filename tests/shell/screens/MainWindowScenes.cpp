@@ -68,12 +68,12 @@ std::vector<Scene> MainWindowScenes()
         return [size, menu](bool arabic) { return TakeMainWindow(arabic, size, menu); };
     };
     return {
-        {"frmBlack", at({1280, 800}, nullptr)},
+        {"frmBlack", at({1280, 800}, nullptr), 0},
         {"frmBlack-800x600", at({800, 600}, "mnuLessons")},
         {"frmBlack-1280x1024", at({1280, 1024}, "mnuFile")},
-        {"frmBlack-1920x1080", at({1920, 1080}, "mnuRecomands")},
-        {"frmBlack-3840x2160", at({3840, 2160}, "mnuHelp")},
-        {"frmBlack-logged-out", LoggedOut},
+        {"frmBlack-1920x1080", at({1920, 1080}, "mnuRecomands"), 2},
+        {"frmBlack-3840x2160", at({3840, 2160}, "mnuHelp"), 6},
+        {"frmBlack-logged-out", LoggedOut, 0},
     };
 }
 

@@ -14,6 +14,9 @@ struct Scene {
     // Runs events until the window has come to rest. In the Arabic interface, or in the English
     // one.
     std::function<QPixmap(bool arabic)> take;
+    // Whether its picture is one of those that are kept, and how many times smaller; 0 for one that
+    // is only taken when it is asked for.
+    int kept = 1;
 };
 
 std::vector<Scene> LessonScenes();

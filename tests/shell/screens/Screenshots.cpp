@@ -2,8 +2,9 @@
 //
 // usage: keyfluent-screenshots FOLDER [RATIO [NAME...]]
 //
-// Writes FOLDER/<name>-<en|ar>.png, RATIO device pixels to a pixel of the layout (1 if not told).
-// With names, only those pictures whose names begin with one of them.
+// Writes FOLDER/<name>-<en|ar>.png, RATIO device pixels to a pixel of the layout (1 if not told),
+// or FOLDER/<name>.png where both languages look the same. With names, those pictures whose names
+// begin with one of them, and without names those that are kept in docs/screens.
 #include "tests/shell/forms/FormsHarness.h"
 #include "tests/shell/screens/Scenes.h"
 
@@ -19,44 +20,86 @@ namespace
 {
 
 // Packed as tightly as the format allows: the pictures are kept.
-bool Save(const QPixmap& picture, const QString& file)
+bool Save(const QImage& picture, const QString& file)
 {
     QImageWriter writer(file, "PNG");
     writer.setCompression(100);
-    const QImage image = picture.toImage().convertToFormat(QImage::Format_RGB32);
-    return writer.write(image);
+    return writer.write(picture.convertToFormat(QImage::Format_RGB32));
 }
 
-bool Wanted(const QString& name, const QStringList& beginnings)
+class Camera
 {
-    return beginnings.isEmpty() ||
-           std::ranges::any_of(beginnings, [&name](const QString& beginning) {
-               return name.startsWith(beginning);
-           });
-}
+public:
+    Camera(const QDir& folder, const QStringList& beginnings)
+        : folder_(folder), beginnings_(beginnings)
+    {
+    }
 
-bool TakePictures(const QDir& folder, const QStringList& beginnings)
-{
-    for (const auto& scenes : {MainWindowScenes(), WindowScenes(), LessonScenes(), BoxScenes()}) {
-        for (const Scene& scene : scenes) {
-            for (const bool arabic : {false, true}) {
-                const QString name = QString::fromLatin1(scene.name) +
-                                     (arabic ? QStringLiteral("-ar") : QStringLiteral("-en"));
-                if (Wanted(name, beginnings) &&
-                    !Save(scene.take(arabic), folder.filePath(name + QStringLiteral(".png")))) {
-                    return false;
-                }
+    // False when a picture cannot be written.
+    bool TakeAll() const
+    {
+        for (const auto& scenes :
+             {MainWindowScenes(), WindowScenes(), LessonScenes(), BoxScenes()}) {
+            if (!std::ranges::all_of(scenes, [this](const Scene& scene) { return Take(scene); })) {
+                return false;
             }
         }
+        return true;
     }
-    return true;
-}
+
+private:
+    bool Wanted(const Scene& scene) const
+    {
+        if (beginnings_.isEmpty()) {
+            return scene.kept > 0;
+        }
+        const QString name = QString::fromLatin1(scene.name);
+        return std::ranges::any_of(
+            beginnings_, [&name](const QString& beginning) { return name.startsWith(beginning); });
+    }
+
+    QImage Picture(const Scene& scene, bool arabic) const
+    {
+        const QImage whole = scene.take(arabic).toImage();
+        return beginnings_.isEmpty() && scene.kept > 1
+                   ? whole.scaled(whole.size() / scene.kept, Qt::IgnoreAspectRatio,
+                                  Qt::SmoothTransformation)
+                   : whole;
+    }
+
+    // One file where both languages look the same.
+    bool Take(const Scene& scene) const
+    {
+        if (!Wanted(scene)) {
+            return true;
+        }
+        const QImage english = Picture(scene, false);
+        const QImage arabic = Picture(scene, true);
+        const auto save = [this, &scene](const QImage& picture, const char* language) {
+            return Save(picture, folder_.filePath(QLatin1String(scene.name) +
+                                                  QLatin1String(language) + QLatin1String(".png")));
+        };
+        return english == arabic ? save(english, "") : save(english, "-en") && save(arabic, "-ar");
+    }
+
+    const QDir& folder_;
+    const QStringList& beginnings_;
+};
 
 } // namespace
 } // namespace keyfluent::shell
 
+// What the offscreen platform cannot do is none of the pictures' business.
+static void Tell(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+}
+
 int main(int argc, char** argv)
 {
+    qInstallMessageHandler(Tell);
     if (argc < 2) {
         std::fprintf(stderr, "usage: keyfluent-screenshots FOLDER [RATIO [NAME...]]\n");
         return 2;
@@ -69,7 +112,7 @@ int main(int argc, char** argv)
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     const QStringList beginnings = QApplication::arguments().mid(3);
     if (!folder.mkpath(QStringLiteral(".")) ||
-        !keyfluent::shell::TakePictures(folder, beginnings)) {
+        !keyfluent::shell::Camera(folder, beginnings).TakeAll()) {
         std::fprintf(stderr, "%s cannot be written\n", argv[1]);
         return 1;
     }

@@ -29,14 +29,16 @@ QPixmap Take(Form& window)
 }
 
 // A window of the student's own world, made by an operation.
-Scene Of(const char* name, Window (*make)(World& world))
+Scene Of(const char* name, Window (*make)(World& world), int kept = 1)
 {
-    return {name, [make](bool arabic) {
+    return {name,
+            [make](bool arabic) {
                 World world(arabic);
                 PlaceStudent(world);
                 world.state().arabicExercise = arabic;
                 return Take(*make(world));
-            }};
+            },
+            kept};
 }
 
 Scene AsUsual(const char* form)
@@ -52,12 +54,14 @@ Scene AsUsual(const char* form)
 // The student's name is of the other language than the interface.
 Scene WithForeignName(const char* name, const char* form)
 {
-    return {name, [form](bool arabic) {
+    return {name,
+            [form](bool arabic) {
                 World world(arabic);
                 PlaceStudent(world);
                 world.state().studentName = arabic ? u"Layla Haddad" : u"ليلى حداد";
                 return Take(*MakeForm(world, form));
-            }};
+            },
+            0};
 }
 
 Window FilledIn(World& world, const char* form, const char* field, const QString& text)
@@ -225,61 +229,61 @@ std::vector<Scene> WindowScenes()
         AsUsual("frmSplash"),
         AsUsual("frmScreen"),
         Of("frmEName", Name),
-        Of("frmEName-again", NameAgain),
+        Of("frmEName-again", NameAgain, 0),
         AsUsual("DlgWelcome"),
         WithForeignName("DlgWelcome-foreign-name", "DlgWelcome"),
         AsUsual("frmWelcome"),
         WithForeignName("frmWelcome-foreign-name", "frmWelcome"),
         AsUsual("frmLessonDescription"),
-        Of("frmLessonDescription-7", LessonNote<7>),
+        Of("frmLessonDescription-7", LessonNote<7>, 0),
         Of("frmImage", PictureWindow<146>),
         Of("frmImage-pad", PictureWindow<147>),
         Of("frmImage-guide-row", PictureWindow<148>),
-        Of("frmImage-no-caption", PictureWindow<150>),
+        Of("frmImage-no-caption", PictureWindow<150>, 0),
         AsUsual("dlgExercise"),
         Of("dlgExercise-12", Chooser12),
-        Of("dlgExercise-15", Chooser15),
+        Of("dlgExercise-15", Chooser15, 0),
         AsUsual("dlgOptions"),
-        Of("dlgOptions-long-note", OptionsWithWord),
-        Of("dlgOptions-keys", OptionsOfKeys),
+        Of("dlgOptions-long-note", OptionsWithWord, 0),
+        Of("dlgOptions-keys", OptionsOfKeys, 0),
         Of("dlgOptions-passage", OptionsOfPassage),
-        Of("dlgOptions-free-text", OptionsOfFreeText),
-        Of("dlgOptions-arabic-anagram", OptionsOfArabicAnagram),
+        Of("dlgOptions-free-text", OptionsOfFreeText, 0),
+        Of("dlgOptions-arabic-anagram", OptionsOfArabicAnagram, 0),
         Of("frmFree", Letters),
         AsUsual("frmNotAllowed"),
         Of("frmResult", PassedResult),
-        Of("frmResult-ordinary", OrdinaryResult),
-        Of("frmResult-diploma", DiplomaResult),
+        Of("frmResult-ordinary", OrdinaryResult, 0),
+        Of("frmResult-diploma", DiplomaResult, 0),
         AsUsual("frmStopNote"),
-        Of("frmStopNote-1", FirstStopNote),
+        Of("frmStopNote-1", FirstStopNote, 0),
         AsUsual("frmPrefs"),
         AsUsual("frmDiploma"),
-        Of("frmDiploma-four-courses", FullDiploma),
-        Of("frmViewRecommands-help-1", Help<1>),
-        Of("frmViewRecommands-help-2", Help<2>),
-        Of("frmViewRecommands-help-3", Help<3>),
-        Of("frmViewRecommands-help-4", Help<4>),
-        Of("frmViewRecommands-help-5", Help<5>),
-        Of("frmViewRecommands-help-6", Help<6>),
+        Of("frmDiploma-four-courses", FullDiploma, 0),
+        Of("frmViewRecommands-help-1", Help<1>, 0),
+        Of("frmViewRecommands-help-2", Help<2>, 0),
+        Of("frmViewRecommands-help-3", Help<3>, 0),
+        Of("frmViewRecommands-help-4", Help<4>, 0),
+        Of("frmViewRecommands-help-5", Help<5>, 0),
+        Of("frmViewRecommands-help-6", Help<6>, 0),
         Of("frmViewRecommands-help-7", Help<7>),
-        Of("frmViewRecommands-help-8", Help<8>),
-        Of("frmViewRecommands-help-9", Help<9>),
-        Of("frmViewRecommands-help-10", Help<10>),
-        Of("frmViewRecommands-help-11", Help<11>),
-        Of("frmViewRecommands-1", Recommendation<1>),
+        Of("frmViewRecommands-help-8", Help<8>, 0),
+        Of("frmViewRecommands-help-9", Help<9>, 0),
+        Of("frmViewRecommands-help-10", Help<10>, 0),
+        Of("frmViewRecommands-help-11", Help<11>, 0),
+        Of("frmViewRecommands-1", Recommendation<1>, 0),
         Of("frmViewRecommands-2", Recommendation<2>),
-        Of("frmViewRecommands-3", Recommendation<3>),
-        Of("frmViewRecommands-4", Recommendation<4>),
-        Of("frmViewRecommands-5", Recommendation<5>),
-        Of("frmViewRecommands-6", Recommendation<6>),
+        Of("frmViewRecommands-3", Recommendation<3>, 0),
+        Of("frmViewRecommands-4", Recommendation<4>, 0),
+        Of("frmViewRecommands-5", Recommendation<5>, 0),
+        Of("frmViewRecommands-6", Recommendation<6>, 0),
         AsUsual("frmAbout"),
         AsUsual("frmMore"),
         AsUsual("frmLeave"),
-        Of("frmLeave-log-out", LogOut),
+        Of("frmLeave-log-out", LogOut, 0),
         AsUsual("DlgGBye"),
-        Of("DlgGBye-1", Farewell<1>),
-        Of("DlgGBye-4", Farewell<4>),
-        Of("DlgGBye-5", Farewell<5>),
+        Of("DlgGBye-1", Farewell<1>, 0),
+        Of("DlgGBye-4", Farewell<4>, 0),
+        Of("DlgGBye-5", Farewell<5>, 0),
         WithForeignName("DlgGBye-foreign-name", "DlgGBye"),
     };
 }
