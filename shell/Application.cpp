@@ -4,7 +4,7 @@
 #include "shell/Program.h"
 #include "shell/base/Boxes.h"
 #include "shell/base/ImageControl.h"
-#include "shell/base/MenuStyle.h"
+#include "shell/base/ProgramStyle.h"
 #include "shell/platform/CapsLock.h"
 #include "shell/platform/Fonts.h"
 #include "shell/platform/PlatformRecord.h"
@@ -68,7 +68,7 @@ QFont InPoints(QFont font)
 // The same looks on every desktop.
 void SetLooks()
 {
-    QApplication::setStyle(new MenuStyle(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ProgramStyle(QStringLiteral("Fusion")));
     QPalette palette = QApplication::style()->standardPalette();
     palette.setColor(QPalette::Highlight, QColor(0x26, 0x73, 0x7A));
     palette.setColor(QPalette::HighlightedText, Qt::white);

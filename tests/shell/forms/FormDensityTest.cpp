@@ -1,4 +1,5 @@
 // The windows on a screen of twice the density: everything in its place, and everything sharp.
+#include "shell/base/Boxes.h"
 #include "shell/base/ImageControl.h"
 #include "shell/base/Pictures.h"
 #include "shell/base/TextLabel.h"
@@ -27,6 +28,8 @@ private slots:
     void TextsAreDrawnAtTheScreensDensity();
     void StripesStayWholePixelsOfTheLayout();
     void FramesAreTheOutermostPixels();
+    void SignsOfMessagesAreDrawnAtTheScreensDensity_data();
+    void SignsOfMessagesAreDrawnAtTheScreensDensity();
     void TheBackdropIsAsSharpAsTheScreen_data();
     void TheBackdropIsAsSharpAsTheScreen();
 };
@@ -150,6 +153,23 @@ void FormDensityTest::FramesAreTheOutermostPixels()
     }
     QVERIFY(shot.pixel(right - 2, 80) != qRgb(0, 0, 0));
     QVERIFY(shot.pixel(2, 80) != qRgb(0, 0, 0));
+}
+
+void FormDensityTest::SignsOfMessagesAreDrawnAtTheScreensDensity_data()
+{
+    QTest::addColumn<int>("icon");
+    QTest::newRow("critical") << int(QMessageBox::Critical);
+    QTest::newRow("information") << int(QMessageBox::Information);
+}
+
+void FormDensityTest::SignsOfMessagesAreDrawnAtTheScreensDensity()
+{
+    QFETCH(int, icon);
+    const auto box = MakeMessage(static_cast<QMessageBox::Icon>(icon), QStringLiteral("Text"));
+    const QPixmap sign = box->iconPixmap();
+    QCOMPARE(sign.devicePixelRatio(), 2.0);
+    // Enlarged ones would be of pairs of pixels that are alike.
+    QVERIFY(FineDetails(sign.toImage()) > 30);
 }
 
 void FormDensityTest::TheBackdropIsAsSharpAsTheScreen_data()
