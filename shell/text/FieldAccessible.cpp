@@ -16,8 +16,13 @@ class FieldAccessible : public QAccessibleWidget,
                         public QAccessibleEditableTextInterface
 {
 public:
-    FieldAccessible(QWidget* widget, TextCanvas& canvas, FieldEditor* editor)
-        : QAccessibleWidget(widget, QAccessible::EditableText), canvas_(canvas), editor_(editor)
+    explicit FieldAccessible(RowView* view)
+        : QAccessibleWidget(view, QAccessible::EditableText), canvas_(view->Canvas()), view_(view)
+    {
+    }
+    explicit FieldAccessible(FieldEditor* editor)
+        : QAccessibleWidget(editor, QAccessible::EditableText), canvas_(editor->Canvas()),
+          editor_(editor)
     {
     }
 
@@ -71,10 +76,7 @@ public:
         }
     }
 
-    int cursorPosition() const override
-    {
-        return editor_ ? canvas_.Caret() : canvas_.SelectionStart();
-    }
+    int cursorPosition() const override { return editor_ ? canvas_.Caret() : view_->Caret(); }
     void setCursorPosition(int position) override { setSelection(0, position, position); }
 
     QString text(int start, int end) const override
@@ -125,16 +127,17 @@ private:
     bool Editable() const { return editor_ && !editor_->ReadOnly(); }
 
     TextCanvas& canvas_;
-    FieldEditor* editor_; // nullptr for a field that only shows
+    RowView* view_ = nullptr;       // a field that only shows,
+    FieldEditor* editor_ = nullptr; // or one that the student edits
 };
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object)
 {
     if (auto* view = qobject_cast<RowView*>(object)) {
-        return new FieldAccessible(view, view->Canvas(), nullptr);
+        return new FieldAccessible(view);
     }
     if (auto* editor = qobject_cast<FieldEditor*>(object)) {
-        return new FieldAccessible(editor, editor->Canvas(), editor);
+        return new FieldAccessible(editor);
     }
     return nullptr;
 }
@@ -160,7 +163,7 @@ void InstallFieldAccessibility()
 }
 
 std::vector<std::unique_ptr<QAccessibleEvent>> EventsOf(QWidget* field, const TextChange& change,
-                                                        const TextCanvas& canvas)
+                                                        const TextCanvas& canvas, int caret)
 {
     std::vector<std::unique_ptr<QAccessibleEvent>> events;
     if (!change.Empty()) {
@@ -168,15 +171,15 @@ std::vector<std::unique_ptr<QAccessibleEvent>> EventsOf(QWidget* field, const Te
     }
     auto selection = std::make_unique<QAccessibleTextSelectionEvent>(field, canvas.SelectionStart(),
                                                                      canvas.SelectionEnd());
-    selection->setCursorPosition(canvas.Caret());
+    selection->setCursorPosition(caret);
     events.push_back(std::move(selection));
     return events;
 }
 
-void TellAssistants(QWidget* field, const TextChange& change, const TextCanvas& canvas)
+void TellAssistants(QWidget* field, const TextChange& change, const TextCanvas& canvas, int caret)
 {
     if (QAccessible::isActive()) {
-        for (const auto& event : EventsOf(field, change, canvas)) {
+        for (const auto& event : EventsOf(field, change, canvas, caret)) {
             QAccessible::updateAccessibility(event.get());
         }
     }

@@ -17,11 +17,11 @@ namespace keyfluent::shell
 void InstallFieldAccessibility();
 
 // What there is to tell of a change of field: of its text, if that has changed, and then of its
-// caret and selection.
+// caret and selection. caret is the position that the field answers when it is asked for it.
 std::vector<std::unique_ptr<QAccessibleEvent>> EventsOf(QWidget* field, const TextChange& change,
-                                                        const TextCanvas& canvas);
+                                                        const TextCanvas& canvas, int caret);
 
 // Tells that field has changed. Costs nothing while nobody listens.
-void TellAssistants(QWidget* field, const TextChange& change, const TextCanvas& canvas);
+void TellAssistants(QWidget* field, const TextChange& change, const TextCanvas& canvas, int caret);
 
 } // namespace keyfluent::shell

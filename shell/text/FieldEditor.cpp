@@ -80,7 +80,7 @@ void FieldEditor::Show(const session::TextField& field)
     toldStart_ = start;
     toldLength_ = length;
     if (moved || !change.Empty()) {
-        TellAssistants(this, change, canvas_);
+        TellAssistants(this, change, canvas_, canvas_.Caret());
         KeepCaretSeen();
     } else if (!composed.empty()) {
         ShowComposed(ToQString(composed), composedCaret);
@@ -121,7 +121,7 @@ bool FieldEditor::Apply(const TextChange& change, int caret)
     toldStart_ = change.position + Length(change.inserted);
     toldLength_ = 0;
     wantedX_ = -1;
-    TellAssistants(this, change, canvas_);
+    TellAssistants(this, change, canvas_, canvas_.Caret());
     emit edited(change.position, Length(change.removed), change.inserted);
     TellSelection();
     KeepCaretSeen();
@@ -146,7 +146,7 @@ void FieldEditor::TellSelection()
     }
     toldStart_ = start;
     toldLength_ = length;
-    TellAssistants(this, {}, canvas_);
+    TellAssistants(this, {}, canvas_, canvas_.Caret());
     emit selected(start, length);
 }
 

@@ -38,7 +38,7 @@ void RowView::Show(const session::TextField& field)
         FollowField();
     }
     if (moved || !change.Empty()) {
-        TellAssistants(this, change, canvas_);
+        TellAssistants(this, change, canvas_, Caret());
     }
     UpdateDamage();
 }
@@ -55,6 +55,11 @@ void RowView::BringIntoView(int position)
 {
     canvas_.Follow(position, linesAround);
     UpdateDamage();
+}
+
+int RowView::Caret() const
+{
+    return keep_ == Keep::End ? canvas_.Size() : canvas_.SelectionStart();
 }
 
 void RowView::FollowField()

@@ -39,6 +39,10 @@ public:
 
     TextCanvas& Canvas() { return canvas_; }
 
+    // Where the next letter goes, which no caret shows here: the lit letter's position, or the end
+    // of what has been typed.
+    int Caret() const;
+
 signals:
     // A mouse button has gone down, and was let go above the field.
     void pressed(Qt::MouseButton button);

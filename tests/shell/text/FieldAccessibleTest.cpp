@@ -57,6 +57,16 @@ private slots:
         QCOMPARE(text->cursorPosition(), 3);
     }
 
+    void TheCaretOfACopyStandsWhereTheNextLetterGoes()
+    {
+        Stage stage(RowView::Keep::End, rowSize);
+        stage.view.Show(MakeField(latinRow, false, 0, 0));
+        QAccessibleTextInterface* text = InterfaceOf(stage.view)->textInterface();
+        QCOMPARE(text->cursorPosition(), static_cast<int>(latinRow.size()));
+        stage.view.Show(MakeField(latinRow.substr(0, 2), false, 0, 0));
+        QCOMPARE(text->cursorPosition(), 2);
+    }
+
     void PlacesOfLettersAreThoseOnTheScreen()
     {
         Stage stage(RowView::Keep::Selection, rowSize);
@@ -92,7 +102,7 @@ private slots:
         canvas.SetText(u"axc");
         canvas.Select(1, 2);
 
-        auto events = EventsOf(&field, {2, u"", u"c"}, canvas);
+        auto events = EventsOf(&field, {2, u"", u"c"}, canvas, 2);
         QCOMPARE(events.size(), std::size_t(2));
         QCOMPARE(events[0]->type(), QAccessible::TextInserted);
         QVERIFY(events[0]->object() == &field);
@@ -105,19 +115,19 @@ private slots:
         QCOMPARE(selection->selectionEnd(), 2);
         QCOMPARE(selection->cursorPosition(), 2);
 
-        events = EventsOf(&field, {1, u"b", u"x"}, canvas);
+        events = EventsOf(&field, {1, u"b", u"x"}, canvas, 2);
         QCOMPARE(events[0]->type(), QAccessible::TextUpdated);
         auto* updated = static_cast<QAccessibleTextUpdateEvent*>(events[0].get());
         QCOMPARE(updated->textRemoved(), QStringLiteral("b"));
         QCOMPARE(updated->textInserted(), QStringLiteral("x"));
 
-        events = EventsOf(&field, {1, u"xc", u""}, canvas);
+        events = EventsOf(&field, {1, u"xc", u""}, canvas, 1);
         QCOMPARE(events[0]->type(), QAccessible::TextRemoved);
         auto* removed = static_cast<QAccessibleTextRemoveEvent*>(events[0].get());
         QCOMPARE(removed->changePosition(), 1);
         QCOMPARE(removed->textRemoved(), QStringLiteral("xc"));
 
-        events = EventsOf(&field, {}, canvas);
+        events = EventsOf(&field, {}, canvas, 1);
         QCOMPARE(events.size(), std::size_t(1));
         QCOMPARE(events[0]->type(), QAccessible::TextSelectionChanged);
     }
