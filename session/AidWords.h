@@ -17,7 +17,7 @@ std::u16string KeyboardWords(const Lesson& lesson);
 // A hand with the finger that its picture shows.
 std::u16string HandWords(const Lesson& lesson, Hand hand);
 
-// What there is to say after each event: the next key and, while the hands are on show, the fingers
+// What there is to say after each event: the next key and, where the hands are on show, the fingers
 // that type it; in the review the message line; "" in free text. Two keys that follow one another
 // may have the same words.
 std::u16string Announcement(const Lesson& lesson);

@@ -17,6 +17,7 @@
 #include "shell/forms/frmStopNote.h"
 #include "shell/lesson/GaugeBar.h"
 #include "shell/lesson/KeyboardView.h"
+#include "shell/lesson/Narrator.h"
 #include "shell/platform/Fonts.h"
 #include "shell/platform/KeyMap.h"
 #include "shell/text/FieldEditor.h"
@@ -102,6 +103,12 @@ void frmLesson::FillWindow()
     window_.showNotAllowed = [this] { ShowAbove(std::make_unique<frmNotAllowed>(program())); };
 }
 
+// A name for those who cannot see the control.
+QString frmLesson::Word(const char16_t* arabic, const char16_t* english) const
+{
+    return QString::fromUtf16(Arabic() ? arabic : english);
+}
+
 void frmLesson::BuildFields()
 {
     const QFont font = ExerciseFont(lesson_.txtOrigin.fontSize);
@@ -109,6 +116,12 @@ void frmLesson::BuildFields()
     txtOrigin_->setObjectName(QStringLiteral("txtOrigin"));
     txtTest_ = new RowView(RowView::Keep::End, font, this);
     txtTest_->setObjectName(QStringLiteral("txtTest"));
+    if (lesson_.context.freeText) {
+        txtOrigin_->setAccessibleName(Word(u"نصك", u"Your text"));
+    } else {
+        txtOrigin_->setAccessibleName(Word(u"النص المطلوب", u"Text to type"));
+    }
+    txtTest_->setAccessibleName(Word(u"ما كتبته", u"What you have typed"));
     txtOrigin_->setFocusPolicy(Qt::StrongFocus);
     txtTest_->setFocusPolicy(Qt::NoFocus);
     const QPixmap pointer = LoadBitmap(session::customPointer, devicePixelRatioF());
@@ -169,8 +182,6 @@ void frmLesson::BuildPictures()
 {
     keyboard_ = new KeyboardView(this);
     keyboard_->setObjectName(QStringLiteral("T"));
-    keyboard_->setAccessibleName(Arabic() ? QStringLiteral("لوحة المفاتيح")
-                                          : QStringLiteral("Keyboard"));
     struct Push {
         ImageControl** control;
         const char* name;
@@ -178,14 +189,11 @@ void frmLesson::BuildPictures()
         PushPicture picture;
         QString caption;
     };
-    const auto word = [this](const char16_t* arabic, const char16_t* english) {
-        return QString::fromUtf16(Arabic() ? arabic : english);
-    };
     const Push pushes[] = {
-        {&imgRest_, "imgRest", &lesson_.imgRest, PushPicture::Rest, word(u"استراحة", u"Break")},
+        {&imgRest_, "imgRest", &lesson_.imgRest, PushPicture::Rest, Word(u"استراحة", u"Break")},
         {&imgResume_, "imgResume", &lesson_.imgResume, PushPicture::Resume,
-         word(u"متابعة", u"Resumption")},
-        {&imgStop_, "imgStop", &lesson_.imgStop, PushPicture::Stop, word(u"توقيف", u"Stop")},
+         Word(u"متابعة", u"Resumption")},
+        {&imgStop_, "imgStop", &lesson_.imgStop, PushPicture::Stop, Word(u"توقيف", u"Stop")},
     };
     for (const Push& push : pushes) {
         ImageControl* image =
@@ -217,6 +225,8 @@ void frmLesson::BuildPictures()
                             lesson_.imgLeftHand.bitmap);
     imgRightHand_ = AddImage("imgRightHand", PixelsOf(lesson_.imgRightHand.box).topLeft(),
                              lesson_.imgRightHand.bitmap);
+    narrator_ = std::make_unique<Narrator>(
+        lesson_, Narrator::Controls{keyboard_, imgLeftHand_, imgRightHand_, new Notice(this)});
 }
 
 void frmLesson::BuildTimers()
@@ -287,24 +297,24 @@ void frmLesson::Refresh()
     pbMark_->Show(lesson_.pbMark);
     pbSpeed_->Show(lesson_.pbSpeed);
     RefreshLabels();
+    narrator_->Tell();
 }
 
 void frmLesson::RefreshFields()
 {
-    const session::TextField* editable = session::EditableField(lesson_);
+    session::TextField* editable = session::EditableField(lesson_);
     if (editable != nullptr && editor_ == nullptr) {
-        editor_ = editable == &lesson_.txtTest ? MakeEditor("txtTest", lesson_.txtTest)
-                                               : MakeEditor("txtOrigin", lesson_.txtOrigin);
+        ReplaceByEditor(*editable);
     }
-    const auto show = [this, editable](RowView& view, const session::TextField& field) {
-        view.setGeometry(PixelsOf(field.box));
-        view.setVisible(field.visible && &field != editable);
-        if (&field != editable) {
-            view.Show(field);
+    const auto show = [](RowView* view, const session::TextField& field) {
+        if (view != nullptr) {
+            view->setGeometry(PixelsOf(field.box));
+            view->setVisible(field.visible);
+            view->Show(field);
         }
     };
-    show(*txtOrigin_, lesson_.txtOrigin);
-    show(*txtTest_, lesson_.txtTest);
+    show(txtOrigin_, lesson_.txtOrigin);
+    show(txtTest_, lesson_.txtTest);
     if (editor_ != nullptr) {
         editor_->setGeometry(PixelsOf(editable->box));
         editor_->Show(*editable);
@@ -328,11 +338,22 @@ void frmLesson::RefreshPicture(ImageControl& control, const session::Image& imag
     control.setVisible(image.visible);
 }
 
-FieldEditor* frmLesson::MakeEditor(const char* name, session::TextField& field)
+// The view is in the middle of the event that has led here, so it goes when that is over. It must
+// not be met twice by then: neither by its name nor on the screen.
+void frmLesson::ReplaceByEditor(session::TextField& field)
+{
+    editor_ = MakeEditor(field);
+    RowView*& view = &field == &lesson_.txtTest ? txtTest_ : txtOrigin_;
+    editor_->setObjectName(view->objectName());
+    editor_->setAccessibleName(view->accessibleName());
+    view->setObjectName(QString());
+    view->hide();
+    std::exchange(view, nullptr)->deleteLater();
+}
+
+FieldEditor* frmLesson::MakeEditor(session::TextField& field)
 {
     auto* editor = new FieldEditor(ExerciseFont(field.fontSize), this);
-    editor->setObjectName(QString::fromLatin1(name));
-    (&field == &lesson_.txtTest ? txtTest_ : txtOrigin_)->setObjectName(QString());
     editor->AllowInputMethod(true);
     editor->installEventFilter(this);
     connect(editor, &FieldEditor::edited, this,
@@ -341,7 +362,9 @@ FieldEditor* frmLesson::MakeEditor(const char* name, session::TextField& field)
             });
     connect(editor, &FieldEditor::selected, this, [this, &field](int start, int length) {
         field.Select(start, length);
-        txtOrigin_->BringIntoView(start); // the model scrolls with the copy
+        if (txtOrigin_ != nullptr) {
+            txtOrigin_->BringIntoView(start); // the model scrolls with the copy
+        }
     });
     if (&field == &lesson_.txtTest) {
         editor->SetReturn(FieldEditor::Return::IsReported);

@@ -16,6 +16,7 @@ namespace keyfluent::shell
 class FieldEditor;
 class GaugeBar;
 class KeyboardView;
+class Narrator;
 class RowView;
 
 class frmLesson : public Form
@@ -40,6 +41,7 @@ protected:
 
 private:
     void FillWindow();
+    QString Word(const char16_t* arabic, const char16_t* english) const;
     void BuildFields();
     void BuildLabels();
     void BuildPictures();
@@ -51,6 +53,7 @@ private:
     void SyncTimers();
     void Refresh();
     void RefreshFields();
+    void ReplaceByEditor(session::TextField& field);
     void RefreshLabels();
     void RefreshPicture(ImageControl& control, const session::Image& image);
     void Tick(session::TimerName timer);
@@ -59,7 +62,7 @@ private:
     bool PressKey(QKeyEvent& event);
     void NoteShift(const QKeyEvent& event, bool down);
     bool PressField(session::FieldName field);
-    FieldEditor* MakeEditor(const char* name, session::TextField& field);
+    FieldEditor* MakeEditor(session::TextField& field);
     void FocusOrigin();
 
     struct RecordLabel {
@@ -70,7 +73,7 @@ private:
     session::LessonWindow window_;
     session::Lesson lesson_;
     Continuation next_;
-    RowView* txtOrigin_ = nullptr;
+    RowView* txtOrigin_ = nullptr; // null where the editor stands in its place, as below
     RowView* txtTest_ = nullptr;
     FieldEditor* editor_ = nullptr; // of the field that the student may edit; made when needed
     KeyboardView* keyboard_ = nullptr;
@@ -81,6 +84,7 @@ private:
     ImageControl* imgStop_ = nullptr;
     ImageControl* imgLeftHand_ = nullptr;
     ImageControl* imgRightHand_ = nullptr;
+    std::unique_ptr<Narrator> narrator_;
     std::vector<RecordLabel> labels_;
     std::array<QTimer*, session::timerCount> timers_{};
     std::array<std::uint32_t, session::timerCount> startsSeen_{};

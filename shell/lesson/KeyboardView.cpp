@@ -5,7 +5,7 @@
 #include "shell/platform/Fonts.h"
 #include "shell/platform/TextConversion.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QPaintEvent>
 #include <QPainter>
@@ -57,10 +57,17 @@ bool SameCap(const CapArray& left, const CapArray& right, std::size_t cap)
            left.rightToLeft[cap] == right.rightToLeft[cap];
 }
 
+QAccessibleInterface* MakeAccess(const QString&, QObject* object)
+{
+    auto* keyboard = qobject_cast<KeyboardView*>(object);
+    return keyboard != nullptr ? new QAccessibleWidget(keyboard, QAccessible::Graphic) : nullptr;
+}
+
 } // namespace
 
 KeyboardView::KeyboardView(QWidget* parent) : QWidget(parent)
 {
+    QAccessible::installFactory(MakeAccess); // again does nothing
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
 }
@@ -91,24 +98,12 @@ void KeyboardView::Place(const CapArray& caps)
         whole |= PixelsOf(box);
     }
     setGeometry(whole);
+    setVisible(parentWidget()->rect().intersects(whole));
 }
 
 QRect KeyboardView::CapRect(std::size_t cap) const
 {
     return PixelsOf(shown_->box[cap]).translated(-pos());
-}
-
-QString KeyboardView::LitText() const
-{
-    for (std::size_t cap = 0; shown_.has_value() && cap < shown_->text.size(); ++cap) {
-        const int number = static_cast<int>(cap);
-        const bool modifier = number == keyboard::capCapsLock || number == keyboard::capLeftShift ||
-                              number == keyboard::capRightShift;
-        if (shown_->foreColour[cap] == session::white && !modifier) {
-            return ShownText(*shown_, cap);
-        }
-    }
-    return {};
 }
 
 // The largest face up to the designed one in which the text fits its cap.

@@ -1,4 +1,5 @@
-// The keyboard on the screen: 105 caps as the exercise's record holds them.
+// The keyboard on the screen: 105 caps as the exercise's record holds them. To assistive technology
+// it is one picture, whose name tells the lit cap.
 #pragma once
 
 #include "session/Controls.h"
@@ -24,11 +25,8 @@ public:
     explicit KeyboardView(QWidget* parent);
 
     // Shows the caps; only those that differ from what is on show are painted anew. The view places
-    // itself where the caps are.
+    // itself where the caps are, and hides where they lie outside its parent.
     void Show(const session::CapArray& caps);
-
-    // What the caps show, for tests and for assistive technology: the text of the lit cap.
-    QString LitText() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
