@@ -1,9 +1,11 @@
 #include "shell/base/Form.h"
 
 #include "context/SessionContext.h"
+#include "course/PictureWords.h"
 #include "shell/Program.h"
 #include "shell/base/Twips.h"
 #include "shell/platform/Fonts.h"
+#include "shell/platform/TextConversion.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -139,7 +141,18 @@ ImageControl* Form::AddImage(const char* name, QPoint place, int bitmap)
     image->setObjectName(QString::fromLatin1(name));
     image->SetBitmap(bitmap);
     image->move(place);
+    NamePicture(*image);
     return image;
+}
+
+void Form::NamePicture(ImageControl& image)
+{
+    image.setAccessibleName(ToQString(course::PictureWords(image.Bitmap(), arabic_)));
+}
+
+void Form::NameWindow(std::u16string_view name)
+{
+    setAccessibleName(ToQString(name));
 }
 
 Form::Button Form::AddButton(const char* imageName, const char* labelName, QPoint place,
@@ -179,6 +192,8 @@ QPushButton* Form::AddCommand(const char* name, int entry)
 {
     auto* command = new QPushButton(this);
     command->setObjectName(QString::fromLatin1(name));
+    command->setAccessibleName(
+        buttons_[static_cast<std::size_t>(entry)].button.label->text().simplified());
     command->setFocusPolicy(Qt::NoFocus);
     command->move(width() + outOfSight, 0);
     command->hide();

@@ -50,6 +50,9 @@ public:
     // What was named to come after; called once, after Exec.
     Continuation TakeContinuation();
 
+    // A press on the bare window closes it, instead of a button.
+    bool ClosesWhenPressed() const { return closing_ != Closing::Buttons; }
+
     // The pictures of the two faces of a button.
     static constexpr int faceOut = 102;
     static constexpr int faceIn = 103;
@@ -70,7 +73,11 @@ protected:
                         double points = 10, bool bold = false);
     // The title in the strip on top, across the window. The desktop is told it as well.
     TextLabel* AddTitle(std::u16string_view caption, const char* name = "lblTitle");
+    // A picture has the words of what it shows as its name.
     ImageControl* AddImage(const char* name, QPoint place, int bitmap);
+    void NamePicture(ImageControl& image);
+    // For a window that has no title of its own: what assistive technology calls it.
+    void NameWindow(std::u16string_view name);
 
     // A button: a picture with a caption over it, lit by the pointer.
     struct Button {

@@ -25,6 +25,9 @@ public:
     Kind ControlKind() const { return kind_; }
     void SetChecked(bool checked);
     bool IsChecked() const { return checked_; }
+    // A check box that shows a value which the student can't change.
+    void SetFixed(bool fixed) { fixed_ = fixed; }
+    bool IsFixed() const { return fixed_; }
 
     // The button that is laid over this control reads its caption here.
     void SetCaptionName(const QString& name) { setAccessibleName(name); }
@@ -59,6 +62,7 @@ private:
     int bitmap_ = 0;
     Kind kind_ = Kind::Picture;
     bool checked_ = false;
+    bool fixed_ = false;
     bool down_ = false;
     bool showsFocus_ = false;
 };

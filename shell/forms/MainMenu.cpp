@@ -152,6 +152,11 @@ void frmBlack::ApplyLanguage()
     CaptionLessonMenu(arabic);
     CaptionPageMenus(arabic);
     CaptionButtons(arabic);
+    // The bar and the lists have no captions of their own.
+    menuBar_->setAccessibleName(In(arabic, {u"القوائم", u"Menus"}));
+    for (QMenu* menu : {mnuFile_, mnuLessons_, mnuRecomands_, mnuHelp_}) {
+        menu->setAccessibleName(menu->title());
+    }
 }
 
 void frmBlack::CaptionFileMenu(bool arabic)

@@ -4,6 +4,7 @@
 #include "shell/Program.h"
 #include "shell/forms/dlgOptions.h"
 #include "shell/forms/frmImage.h"
+#include "shell/platform/TextConversion.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -127,11 +128,27 @@ void dlgExercise::AddColumn(Column column)
         image->SetCaptionName(caption->text());
         label(right ? "lblAMM" : "lblEMM", cells.standard, standards[index], false);
         label(right ? "lblACM" : "lblECM", cells.mark, marks[index], true);
+        DescribeExercise(column, *image, standards[index], marks[index]);
         exercises_[column][index] = image;
         // Meant: an exercise is chosen as the button goes down.
         connect(image, &ImageControl::pressed, this, [this, column, i] { Choose(column, i); });
         connect(image, &ImageControl::hovered, this, [this, image] { LightButton(*image); });
     }
+}
+
+// What stands over and beside the button: its column and its two marks under their headings.
+void dlgExercise::DescribeExercise(Column column, ImageControl& image,
+                                   const std::u16string& standard, const std::u16string& mark)
+{
+    const auto heading = [this](const char* name) {
+        return findChild<TextLabel*>(QString::fromLatin1(name))->text();
+    };
+    const bool right = column == Arabic;
+    image.setAccessibleDescription(
+        QStringLiteral("%1. %2: %3. %4: %5")
+            .arg(heading(right ? "lblATitle" : "lblETitle"),
+                 heading(right ? "lblMainMark2" : "lblMainMark"), ToQString(standard),
+                 heading(right ? "lblCurrMark2" : "lblCurrMark"), ToQString(mark)));
 }
 
 // A panel behind each of the two columns.

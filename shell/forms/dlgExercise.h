@@ -4,6 +4,7 @@
 #include "shell/base/Form.h"
 
 #include <array>
+#include <string>
 
 namespace keyfluent::shell
 {
@@ -26,6 +27,8 @@ private:
 
     void AddColumn(Column column);
     void AddHeadings();
+    void DescribeExercise(Column column, ImageControl& image, const std::u16string& standard,
+                          const std::u16string& mark);
     void Choose(Column column, int index);
     void Cancel();
 

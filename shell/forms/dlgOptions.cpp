@@ -115,6 +115,7 @@ void dlgOptions::DrawAid(course::Aid aid)
         control.image->SetBitmap(value ? boxFixedTicked : boxFixedEmpty);
     }
     control.image->SetChecked(value);
+    control.image->SetFixed(!free);
     control.label->setEnabled(free);
 }
 

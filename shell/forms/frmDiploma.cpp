@@ -45,6 +45,7 @@ frmDiploma::frmDiploma(Program& program)
     : Form(program, "frmDiploma", {700, 567}), texts_(progress::LoadDiploma(state()))
 {
     SetStriped(false);
+    NameWindow(Arabic() ? u"شهادة التخرج" : u"Diploma");
     const auto add = [this](const char* name, const QRect& place, const std::u16string& text,
                             double points, bool bold) {
         TextLabel* label = AddLabel(name, place, text, points, bold);

@@ -1,6 +1,7 @@
 #include "shell/forms/frmImage.h"
 
 #include "context/Random.h"
+#include "course/PictureWords.h"
 #include "shell/Program.h"
 #include "shell/base/Twips.h"
 
@@ -25,6 +26,7 @@ frmImage::frmImage(Program& program) : Form(program, "frmImage", {1, 1})
     const int bitmap = context::RandomBetween(program.Machine(), firstPicture, lastPicture);
     ImageControl* picture = AddImage("Image1", {frame, frame}, bitmap);
     setFixedSize(picture->size() + QSize(2 * frame, 2 * frame));
+    NameWindow(course::PictureWords(bitmap, Arabic()));
     AddCaption(bitmap, *picture);
     connect(picture, &ImageControl::clicked, this, [this] { Unload(); });
     CloseOnClick();
@@ -52,7 +54,6 @@ void frmImage::AddCaption(int bitmap, ImageControl& picture)
         caption->SetSide(Side::Right);
         caption->FitHeight();
     }
-    picture.setAccessibleName(caption->text());
 }
 
 void frmImage::KeyReached(QKeyEvent& event)

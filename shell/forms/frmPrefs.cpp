@@ -22,15 +22,17 @@ namespace keyfluent::shell
 class ColourSwatch : public ImageControl
 {
 public:
-    ColourSwatch(QWidget* parent, const QColor& colour) : ImageControl(parent), colour_(colour)
+    ColourSwatch(QWidget* parent, const QColor& colour) : ImageControl(parent)
     {
         SetKind(Kind::Button);
+        SetColour(colour);
     }
 
     const QColor& Colour() const { return colour_; }
     void SetColour(const QColor& colour)
     {
         colour_ = colour;
+        setAccessibleDescription(colour.name());
         update();
     }
 

@@ -12,6 +12,7 @@ frmStopNote::frmStopNote(Program& program, int note) : Form(program, "frmStopNot
     constexpr int notePicture = 108;
     constexpr int noteWithPicture = 9;
     const bool pictured = note == noteWithPicture;
+    NameWindow(Arabic() ? u"ملاحظة" : u"Note");
     TextLabel* text = AddLabel("lblNote", {Pixels(pictured ? 1600 : 800), Pixels(470), 10, 10},
                                course::StopNoteText(note), 12);
     text->SetReading(true);

@@ -95,6 +95,7 @@ void frmViewRecommands::SetUpPage()
         }
         auto* image = findChild<ImageControl*>(QString::fromLatin1(picture.control));
         image->SetBitmap(picture.bitmap);
+        NamePicture(*image);
         image->move(picture.left == centred ? (formWidth - image->width()) / 2
                                             : Pixels(picture.left),
                     Pixels(picture.top));
