@@ -15,6 +15,7 @@ _PATIENCE = 10000  # milliseconds for one answer
 
 # Bits of the state set.
 ACTIVE, CHECKED, ENABLED, FOCUSED, SHOWING, EDITABLE = 1, 4, 8, 12, 25, 7
+MODAL, READ_ONLY = 16, 43
 
 
 class Eyes:
@@ -31,6 +32,9 @@ class Eyes:
         # The registry starts when it is first asked, and before the program looks for it.
         self.desktop = Node(self._bus, _ATSPI + "Registry", _ROOT)
         self.desktop.children()
+
+    def ears(self):
+        return Ears(self._bus)
 
     def switch_on(self):
         """Tells every program that assistive technology is in use; the tests' programs expect it
@@ -59,6 +63,35 @@ class Eyes:
     def _process_of(self, owner):
         return Node(self._bus, "org.freedesktop.DBus", "/org/freedesktop/DBus").ask(
             "org.freedesktop.DBus", "GetConnectionUnixProcessID", GLib.Variant("(s)", (owner,)))
+
+
+class Ears:
+    """What programs tell by themselves from now on: each event as a node and what came about it."""
+
+    _KINDS = ("object:property-change", "object:state-changed")
+
+    def __init__(self, bus):
+        self._bus = bus
+        self._heard = []
+        registry = Node(bus, _ATSPI + "Registry", "/org/a11y/atspi/registry")
+        for kind in self._KINDS:  # nothing is told that nobody has asked for
+            registry.ask(_ATSPI + "Registry", "RegisterEvent", GLib.Variant("(s)", (kind,)))
+        self._subscription = bus.signal_subscribe(
+            None, _ATSPI + "Event.Object", None, None, None, Gio.DBusSignalFlags.NONE, self._hear)
+
+    def _hear(self, _bus, owner, path, _interface, kind, arguments):
+        what, detail = arguments.unpack()[:2]
+        self._heard.append((Node(self._bus, owner, path), kind, what, detail))
+
+    def take(self):
+        """Everything that has been told since the last look."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        heard, self._heard = self._heard, []
+        return heard
+
+    def close(self):
+        self._bus.signal_unsubscribe(self._subscription)
 
 
 class Node:
@@ -150,6 +183,11 @@ class Node:
     @property
     def value(self):
         return self._property("Value", "CurrentValue")
+
+    @property
+    def limits(self):
+        """The lowest and the highest value."""
+        return self._property("Value", "MinimumValue"), self._property("Value", "MaximumValue")
 
     def do(self):
         """The node's first action: what a click on it does."""
