@@ -12,6 +12,7 @@ std::unique_ptr<QMessageBox> MakeMessage(QMessageBox::Icon icon, const QString& 
                                              QApplication::activeWindow());
     const bool arabic = text.isRightToLeft();
     box->setTextFormat(Qt::PlainText);
+    box->setAccessibleName(arabic ? QStringLiteral("كي فلونت") : QStringLiteral("KeyFluent"));
     box->setLayoutDirection(arabic ? Qt::RightToLeft : Qt::LeftToRight);
     box->button(QMessageBox::Ok)->setText(arabic ? QStringLiteral("موافق") : QStringLiteral("OK"));
     return box;

@@ -1,5 +1,6 @@
 // Every window as assistive technology walks it: what each control is and what it is called, in
 // both languages, and what can be done there.
+#include "shell/base/Boxes.h"
 #include "shell/base/ImageControl.h"
 #include "shell/base/TextLabel.h"
 #include "shell/forms/frmBlack.h"
@@ -15,7 +16,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -43,6 +43,7 @@ private slots:
     void AFixedAidIsReadOnly();
     void AnExerciseTellsItsColumnAndItsMarks();
     void ASwatchTellsItsColour();
+    void AMessageIsNamedAfterTheProgram();
 };
 
 namespace
@@ -324,6 +325,15 @@ void FormAccessTest::ASwatchTellsItsColour()
     window->show();
     Click(*window, "lblHilite");
     QCOMPARE(AccessOf(swatch)->text(QAccessible::Description), QStringLiteral("#123456"));
+}
+
+void FormAccessTest::AMessageIsNamedAfterTheProgram()
+{
+    const auto name = [](const QString& text) {
+        return AccessOf(*MakeMessage(QMessageBox::Critical, text))->text(QAccessible::Name);
+    };
+    QCOMPARE(name(QStringLiteral("A file is missing.")), QStringLiteral("KeyFluent"));
+    QCOMPARE(name(QStringLiteral("ملف مفقود.")), QStringLiteral("كي فلونت"));
 }
 
 } // namespace keyfluent::shell

@@ -187,9 +187,15 @@ void LessonAccessTest::InTheReviewTheEditorStandsInThePlaceOfTheCopy()
     QVERIFY(stage.Access("txtTest")->state().editable);
     QCOMPARE(stage.Said(), QStringLiteral("No of Errors: 1. Please correct the text."));
     QCOMPARE(stage.Name("T"), QStringLiteral("Keyboard"));
-    // The model follows the copy, as before.
-    stage.Access("txtTest")->textInterface()->setCursorPosition(5);
-    QCOMPARE(stage.window->Record().txtTest.SelectionStart(), 5);
+    // It is mended without a mouse: the keyboard is led there, and then the caret.
+    stage.Access("txtTest")->actionInterface()->doAction(
+        QAccessibleActionInterface::setFocusAction());
+    QVERIFY(stage.window->focusWidget() == &Control(*stage.window, "txtTest"));
+    stage.Access("txtTest")->textInterface()->setCursorPosition(1);
+    QCOMPARE(stage.window->Record().txtTest.SelectionStart(), 1);
+    stage.Access("txtTest")->editableTextInterface()->replaceText(
+        0, 1, QString(QChar(stage.window->Record().txtOrigin.Text().front())));
+    QVERIFY(stage.window->Record().txtTest.Text() == stage.window->Record().txtOrigin.Text());
 }
 
 void LessonAccessTest::InFreeTextThereIsOneFieldAndNoNotice()
