@@ -2,6 +2,7 @@
 
 #include "course/Lessons.h"
 
+#include <algorithm>
 #include <span>
 #include <string_view>
 
@@ -76,6 +77,31 @@ constexpr PlanRow englishPlan[] = {
 };
 // clang-format on
 
+constexpr bool Holds(const PlanRow& row, int lesson, int exercise)
+{
+    return lesson >= row.firstLesson && lesson <= row.lastLesson &&
+           row.exercises.find(static_cast<char>('0' + exercise)) != std::string_view::npos;
+}
+
+// No row stands in the way of another one.
+constexpr int RowsOf(std::span<const PlanRow> plan, int lesson, int exercise)
+{
+    return static_cast<int>(std::ranges::count_if(
+        plan, [=](const PlanRow& row) { return Holds(row, lesson, exercise); }));
+}
+static_assert([] {
+    for (int lesson = 1; lesson <= lessonCount; ++lesson) {
+        for (int exercise = 1; exercise <= exerciseCount; ++exercise) {
+            const int arabic = RowsOf(arabicPlan, lesson, exercise);
+            const int english = RowsOf(englishPlan, lesson, exercise);
+            if (arabic != 1 || english > 1) {
+                return false;
+            }
+        }
+    }
+    return true;
+}());
+
 // In English lesson 15 the flag follows the place even when it was reached by stepping. Elsewhere
 // the flags stay as the chooser left them.
 void RaiseFlagOfLastLesson(context::SessionContext& context)
@@ -115,12 +141,10 @@ AidPlan AidsOfPlace(int lesson, int exercise, bool arabicExercise)
     if (exercise < 1 || exercise > exerciseCount) {
         return nothing;
     }
-    const char digit = static_cast<char>('0' + exercise);
     const std::span<const PlanRow> plan = arabicExercise ? std::span<const PlanRow>(arabicPlan)
                                                          : std::span<const PlanRow>(englishPlan);
     for (const PlanRow& row : plan) {
-        if (lesson >= row.firstLesson && lesson <= row.lastLesson &&
-            row.exercises.find(digit) != std::string_view::npos) {
+        if (Holds(row, lesson, exercise)) {
             return {row.keyCaps, row.hands, row.counter, row.clock, open};
         }
     }

@@ -70,6 +70,20 @@ constexpr Run runs[] = {
     {3795, 104, 104, 9915, 390},
 };
 
+// Each cap has one place.
+static_assert([] {
+    for (int cap = 0; cap < capCount; ++cap) {
+        int places = 0;
+        for (const Run& run : runs) {
+            places += cap >= run.firstCap && cap <= run.lastCap ? 1 : 0;
+        }
+        if (places != 1) {
+            return false;
+        }
+    }
+    return true;
+}());
+
 // Caps from the first to the last one.
 struct Range {
     int first;
