@@ -3,6 +3,7 @@
 #include "progress/StudentFile.h"
 #include "tests/core/ProgressSupport.h"
 
+#include <cerrno>
 #include <csignal>
 #include <linux/capability.h>
 #include <sys/resource.h>
@@ -317,6 +318,16 @@ TEST(StudentPath, AFullDiskEndsTheProgramWithAReport)
     const std::string message = SaveFailure(context);
     EXPECT_NE(message.find("Students/Ali.W"), std::string::npos) << message;
     EXPECT_NE(message.find("No space left on device"), std::string::npos) << message;
+}
+
+TEST(StudentPath, AnInterruptionOfAnEarlierCallIsNoneOfThisOne)
+{
+    const TemporaryFolder folder;
+    SessionContext context = ContextIn(folder, u"Ali");
+    ASSERT_TRUE(IsNewStudent(context));
+    SaveStudent(context);
+    errno = EINTR; // a call that succeeds leaves it as it is
+    EXPECT_FALSE(IsNewStudent(context));
 }
 
 TEST(StudentPath, AFileThatMayNotGrowKeepsTheRecordsThatFit)
