@@ -230,14 +230,18 @@ def explained():
 
 
 def reported_survivors(report):
-    """Keys of the mutants that a report says have survived."""
-    keys = set()
+    """The mutants that a report says have survived, where their line still stands."""
     for block in report.read_text(encoding="utf-8").split("\n\n"):
         lines = block.strip().splitlines()
-        if len(lines) == 3 and " SURVIVED: " in lines[0]:
-            path = lines[0].split(" SURVIVED: ")[1].rsplit(":", 1)[0]
-            keys.add((path, lines[1][2:], lines[2][2:]))
-    return keys
+        if len(lines) != 3 or " SURVIVED: " not in lines[0]:
+            continue
+        path = lines[0].split(" SURVIVED: ")[1].rsplit(":", 1)[0]
+        source = (ROOT / path).read_text(encoding="utf-8")
+        start = source.find(lines[1][2:])
+        if start < 0:
+            print(f"no longer there: {path}\n{lines[1]}\n")
+            continue
+        yield mutants.made(path, "survivor", source, start, start + len(lines[1][2:]), lines[2][2:])
 
 
 class Check:
@@ -247,8 +251,7 @@ class Check:
         rooms = tuple(arguments.rooms or [""])
         self.queue = (m for m in drawn if m.path.startswith(rooms))
         if arguments.again:
-            keys = reported_survivors(arguments.again)
-            self.queue = (m for m in drawn if m.key() in keys)
+            self.queue = reported_survivors(arguments.again)
         self.lock = threading.Lock()
         self.known = explained()
         self.started = time.monotonic()
@@ -303,7 +306,7 @@ def parsed():
     parser.add_argument("--rooms", nargs="*", metavar="PATH", help="only below these paths")
     parser.add_argument("--report", help="what became of each mutant")
     parser.add_argument("--again", type=pathlib.Path, metavar="REPORT",
-                        help="only the survivors of a report that was made with the same seed")
+                        help="only the survivors of a report")
     return parser.parse_args()
 
 

@@ -24,7 +24,7 @@ OPERATORS = {
 TOKEN = re.compile(r"""
     (?P<comment>//[^\n]*|/\*.*?\*/)
   | (?P<directive>^[ \t]*\#[^\n]*)
-  | (?P<assert>\bstatic_assert\s*\(.*?\);)
+  | (?P<assert>\bstatic_assert\s*\((?:\[.*?\}\(\)|.*?)\);)
   | (?P<string>(?:u8|u|U|L)?"(?:\\.|[^"\\\n])*")
   | (?P<character>(?:u8|u|U|L)?'(?:\\u[0-9A-Fa-f]{4}|\\x[0-9A-Fa-f]+|\\.|[^'\\\n])')
   | (?P<number>\b(?:0x[0-9A-Fa-f]+|[0-9][0-9']*(?:\.[0-9]*)?(?:e[+-]?[0-9]+)?)(?:[fFuUlL]*)\b)
