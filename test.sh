@@ -13,7 +13,9 @@ report="$here/build/test-report.txt"
 status=0
 ctest --preset release --output-log "$report" -j "$(nproc)" || status=$?
 
-# The sanitizers look at the core and the console again.
+# The sanitizers look at the core and the console again, and four programs search for inputs that
+# break them, for a minute each. The windows under the sanitizers take too long for here: see
+# CONTRIBUTING.md.
 cmake --preset asan -DKEYFLUENT_SHELL=OFF >/dev/null
 cmake --build --preset asan
 asan_report="$here/build-asan/test-report.txt"
