@@ -225,9 +225,12 @@ void FormFitTest::OptionsHaveRoomForEveryNote()
                 world.state().lessonNo = lesson;
                 world.state().exerciseNo = exercise;
                 world.state().arabicExercise = arabicExercise;
-                KEYFLUENT_VERIFY_FIT(*MakeForm(world, "dlgOptions"),
-                                     QByteArray::number(lesson) + '.' +
-                                         QByteArray::number(exercise));
+                const std::unique_ptr<Form> window = MakeForm(world, "dlgOptions");
+                const QByteArray place =
+                    QByteArray::number(lesson) + '.' + QByteArray::number(exercise);
+                KEYFLUENT_VERIFY_FIT(*window, place);
+                // In a face that can be read: ten points at least.
+                QVERIFY2(Label(*window, "lblText").font().pixelSize() >= 13, place);
             }
         }
     }
