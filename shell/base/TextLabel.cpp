@@ -50,16 +50,18 @@ TextLabel::TextLabel(QWidget* parent) : QLabel(parent)
 
 void TextLabel::SetCaption(std::u16string_view caption)
 {
-    const QString text = LabelText(caption);
-    if (text != this->text()) {
-        setText(text);
+    if (caption_ == caption) {
+        return;
     }
+    caption_ = caption;
+    setText(LabelText(caption));
+    LayOutAnew();
 }
 
 void TextLabel::SetSide(Side side)
 {
     side_ = side;
-    update();
+    LayOutAnew();
 }
 
 void TextLabel::SetRightToLeft(bool rightToLeft)
@@ -152,39 +154,72 @@ void TextLabel::mouseReleaseEvent(QMouseEvent* event)
 void TextLabel::SetNumberApart(bool apart)
 {
     numberApart_ = apart;
+    LayOutAnew();
+}
+
+void TextLabel::LayOutAnew()
+{
+    laidOut_.clear();
     update();
+}
+
+void TextLabel::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    LayOutAnew();
+}
+
+void TextLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    LayOutAnew(); // a face, a reading direction
 }
 
 void TextLabel::paintEvent(QPaintEvent*)
 {
+    if (laidOut_.empty()) {
+        LayOut();
+    }
     QPainter painter(this);
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, foregroundRole()));
+    for (const std::unique_ptr<QTextLayout>& paragraph : laidOut_) {
+        paragraph->draw(&painter, {0, 0});
+    }
+}
+
+void TextLabel::LayOut()
+{
     if (!numberApart_) {
-        Paint(painter, text(), side_);
+        LayOut(text(), side_);
         return;
     }
     const qsizetype number = text().lastIndexOf(u' ') + 1;
-    Paint(painter, text().left(number).trimmed(), side_);
-    Paint(painter, text().mid(number), side_ == Side::Right ? Side::Left : Side::Right);
+    LayOut(text().left(number).trimmed(), side_);
+    LayOut(text().mid(number), side_ == Side::Right ? Side::Left : Side::Right);
 }
 
-void TextLabel::Paint(QPainter& painter, const QString& text, Side side) const
+// In the middle of the height.
+void TextLabel::LayOut(const QString& text, Side side)
 {
+    const std::size_t first = laidOut_.size();
     const QTextOption option = Option(side);
-    const int needed = static_cast<int>(std::ceil(LaidOut(text, font(), option, width()).height()));
-    qreal top = std::max(overhang, (height() - needed) / 2);
+    qreal needed = 0;
     for (const QString& paragraph : text.split(u'\n')) {
-        QTextLayout layout(paragraph, font());
-        layout.setTextOption(option);
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        auto layout = std::make_unique<QTextLayout>(paragraph, font());
+        layout->setTextOption(option);
+        layout->beginLayout();
+        for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
             line.setLineWidth(width());
-            line.setPosition({0, top});
-            top += line.height();
+            line.setPosition({0, needed});
+            needed += line.height();
         }
-        layout.endLayout();
-        layout.draw(&painter, {0, 0});
+        layout->endLayout();
+        laidOut_.push_back(std::move(layout));
+    }
+    const int top = std::max(overhang, (height() - static_cast<int>(std::ceil(needed))) / 2);
+    for (std::size_t i = first; i < laidOut_.size(); ++i) {
+        laidOut_[i]->setPosition({0, static_cast<qreal>(top)});
     }
 }
 

@@ -3,10 +3,14 @@
 #pragma once
 
 #include <QLabel>
+#include <QTextLayout>
 #include <QTextOption>
 
 #include <functional>
+#include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace keyfluent::shell
 {
@@ -51,17 +55,24 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     QTextOption Option(Side side) const;
-    void Paint(QPainter& painter, const QString& text, Side side) const;
+    void LayOut();
+    void LayOut(const QString& text, Side side);
+    void LayOutAnew();
 
     Side side_ = Side::Left;
     bool numberApart_ = false;
     bool readsByLetters_ = false;
     bool down_ = false;
+    std::u16string caption_;
+    // The paragraphs in their places; none until the label is painted.
+    std::vector<std::unique_ptr<QTextLayout>> laidOut_;
 };
 
 } // namespace keyfluent::shell

@@ -20,6 +20,7 @@
 #include "shell/lesson/Narrator.h"
 #include "shell/platform/Fonts.h"
 #include "shell/platform/KeyMap.h"
+#include "shell/platform/Surface.h"
 #include "shell/text/FieldEditor.h"
 #include "shell/text/RowView.h"
 
@@ -40,6 +41,7 @@ using session::FieldName;
 using session::PushPicture;
 using session::TimerName;
 
+constexpr int pauseAfterKey = 5; // milliseconds; less than between two keys of the fastest typist
 constexpr int ruleUnderTitle = Pixels(404);
 constexpr int ruleWithoutCounter = Pixels(7680);
 
@@ -241,6 +243,9 @@ void frmLesson::BuildTimers()
         connect(timer, &QTimer::timeout, this, [this, i] { Tick(static_cast<TimerName>(i)); });
         timers_[i] = timer;
     }
+    pause_.setSingleShot(true);
+    pause_.setInterval(pauseAfterKey);
+    connect(&pause_, &QTimer::timeout, this, [this] { SettleSurface(*this); });
 }
 
 void frmLesson::AfterEvent()
@@ -417,6 +422,15 @@ void frmLesson::showEvent(QShowEvent* event)
     windowHandle()->installEventFilter(this);
 }
 
+bool frmLesson::event(QEvent* event)
+{
+    const bool handled = Form::event(event);
+    if (event->type() == QEvent::UpdateRequest && std::exchange(answering_, false)) {
+        pause_.start();
+    }
+    return handled;
+}
+
 bool frmLesson::PressField(FieldName field)
 {
     const bool answered = session::PressField(lesson_, field);
@@ -492,6 +506,7 @@ bool frmLesson::PressKey(QKeyEvent& event)
 {
     const std::uint16_t code = KeyNumber(event, lesson_.context.arabicExercise);
     const bool hadReview = session::Reviewing(lesson_);
+    answering_ = true;
     const std::uint16_t left = session::KeyDown(lesson_, code);
     AfterEvent();
     const bool goesOn = left != 0 && !lesson_.unloaded && editor_ != nullptr &&

@@ -5,6 +5,8 @@
 #include "session/Lesson.h"
 #include "shell/base/Form.h"
 
+#include <QTimer>
+
 #include <array>
 #include <set>
 
@@ -33,6 +35,7 @@ public:
     bool HandleKey(QKeyEvent& event);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -88,6 +91,9 @@ private:
     std::vector<RecordLabel> labels_;
     std::array<QTimer*, session::timerCount> timers_{};
     std::array<std::uint32_t, session::timerCount> startsSeen_{};
+    // After a key is answered: the surface settles before the next one.
+    QTimer pause_;
+    bool answering_ = false;
     std::set<quint32> heldShifts_; // places of the Shift keys that are down
 };
 

@@ -118,14 +118,15 @@ QFont KeyboardView::FittingFont(std::size_t cap, const QString& text) const
     return font;
 }
 
+// With the background under its round corners.
 QPixmap KeyboardView::DrawFace(std::size_t cap) const
 {
     static const QColor edge(0x6B, 0x7F, 0x8C);
     const QSize size = CapRect(cap).size();
     QPixmap face(size * facesRatio_);
     face.setDevicePixelRatio(facesRatio_);
-    face.fill(Qt::transparent);
     QPainter painter(&face);
+    PaintBackground(painter, CapRect(cap).topLeft(), QRect(QPoint(), size));
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF place = QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setPen(QPen(edge, 1));
@@ -154,20 +155,28 @@ const QPixmap& KeyboardView::FaceOf(std::size_t cap)
                                  : faces_.emplace(look, DrawFace(cap)).first->second;
 }
 
+// place is in painter's coordinates, whose origin is at this point of the view.
+void KeyboardView::PaintBackground(QPainter& painter, QPoint origin, const QRect& place) const
+{
+    const QPoint onWindow = pos() + origin;
+    painter.translate(-onWindow);
+    PaintStripes(painter, place.translated(onWindow));
+    painter.translate(onWindow);
+}
+
 void KeyboardView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    const QRect damaged = event->region().boundingRect();
-    for (const QRect& part : event->region()) {
-        painter.translate(-pos());
-        PaintStripes(painter, part.translated(pos()));
-        painter.translate(pos());
-    }
+    QRegion between = event->region();
     for (std::size_t cap = 0; shown_.has_value() && cap < shown_->text.size(); ++cap) {
         const QRect place = CapRect(cap);
-        if (damaged.intersects(place) && event->region().intersects(place)) {
+        if (event->region().intersects(place)) {
             painter.drawPixmap(place.topLeft(), FaceOf(cap));
+            between -= place;
         }
+    }
+    for (const QRect& part : between) {
+        PaintBackground(painter, {}, part);
     }
 }
 

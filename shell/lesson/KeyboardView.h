@@ -35,6 +35,7 @@ private:
     void Place(const session::CapArray& caps);
     QRect CapRect(std::size_t cap) const; // in this widget
     const QPixmap& FaceOf(std::size_t cap);
+    void PaintBackground(QPainter& painter, QPoint origin, const QRect& place) const;
     QPixmap DrawFace(std::size_t cap) const;
     QFont FittingFont(std::size_t cap, const QString& text) const;
 

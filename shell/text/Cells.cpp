@@ -4,14 +4,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <deque>
 
 namespace keyfluent::shell
 {
 namespace
 {
-
-// Letters that one sign can stand for, at most.
-constexpr int lettersOfASign = 4;
 
 // A letter as the font draws it.
 struct Sign {
@@ -75,7 +73,7 @@ bool SharesSign(const FlowLine& line, const Sign& first, const Sign& second)
            (first.glyph == second.glyph && first.place == second.place);
 }
 
-void ShareOut(const FlowLine& line, std::vector<Sign>& signs, std::size_t first, std::size_t last)
+void ShareOut(const FlowLine& line, std::deque<Sign>& signs, std::size_t first, std::size_t last)
 {
     const int start = signs[first].cell.position;
     const Cell whole = Measure(line, start, signs[last].cell.End() - start).cell;
@@ -102,17 +100,28 @@ std::vector<Cell> CellsOf(const FlowLine& line, int from, int to)
     if (!line.layout->isValidCursorPosition(start - line.base)) {
         start = PreviousLetter(line, start);
     }
-    int end = std::min(to, line.end);
-    for (int i = 0; i < lettersOfASign; ++i) {
-        start = start > line.start ? PreviousLetter(line, start) : start;
-        end = end < line.end ? NextLetter(line, end) : end;
-    }
+    const int end = std::min(to, line.end);
 
-    std::vector<Sign> signs;
-    for (int at = start; at < end;) {
-        const int next = std::max(NextLetter(line, at), at + 1);
-        signs.push_back(Measure(line, at, next - at));
-        at = next;
+    std::deque<Sign> signs;
+    const auto measure = [&line](int at, int next) { return Measure(line, at, next - at); };
+    const auto next = [&line](int at) { return std::max(NextLetter(line, at), at + 1); };
+    for (int at = start; at < end; at = next(at)) {
+        signs.push_back(measure(at, next(at)));
+    }
+    // A sign that the letters asked for share with their neighbours is looked at whole.
+    while (signs.front().cell.position > line.start) {
+        const int at = signs.front().cell.position;
+        signs.push_front(measure(PreviousLetter(line, at), at));
+        if (!SharesSign(line, signs[0], signs[1])) {
+            break;
+        }
+    }
+    while (signs.back().cell.End() < line.end) {
+        const int at = signs.back().cell.End();
+        signs.push_back(measure(at, next(at)));
+        if (!SharesSign(line, signs[signs.size() - 2], signs.back())) {
+            break;
+        }
     }
     for (std::size_t first = 0; first < signs.size();) {
         std::size_t last = first;
