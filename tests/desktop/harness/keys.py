@@ -5,6 +5,7 @@ ESCAPE, BACKSPACE, TAB, RETURN, SPACE, DELETE = 9, 22, 23, 36, 65, 119
 LEFT_CTRL, LEFT_SHIFT, RIGHT_SHIFT, LEFT_ALT, CAPS_LOCK = 37, 50, 62, 64, 66
 F10 = 76
 LEFT, RIGHT, HOME, END = 113, 114, 110, 115
+A, C, V = 38, 54, 55
 
 LINE_END = "\u0691"  # shown in a text where Enter is to be pressed
 

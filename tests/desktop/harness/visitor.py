@@ -211,6 +211,10 @@ class Visitor:
     def open_exercise(self, exercise, arabic, aids=()):
         """From the main window into an exercise of the current lesson, with the aids named
         ticked."""
+        self.start_exercise(exercise, arabic, aids)
+        return Lesson(self)
+
+    def start_exercise(self, exercise, arabic, aids=()):
         button, _, _ = self.exercise_row(self.open_chooser(), exercise, arabic)
         self.click(button)
         options = self.window_with("push button", self.word("continue"))
@@ -219,7 +223,6 @@ class Visitor:
             self.click(box)
             self.program.wait(lambda: box.has(screen.CHECKED), f"{aid} is ticked")
         self.click(self.control(options, "push button", self.word("continue")))
-        return Lesson(self)
 
     def result(self):
         """The accuracy, the bonus and the mark that the result's window shows; closes it."""
