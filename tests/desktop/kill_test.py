@@ -8,7 +8,7 @@ import unittest
 
 from harness import case, machine
 
-KILLS = int(os.environ.get("KEYFLUENT_KILLS", "20"))
+KILLS = int(os.environ.get("KEYFLUENT_KILLS", "100"))
 SEED = int(os.environ.get("KEYFLUENT_SEED", "1"))
 SCRIPT = pathlib.Path(__file__).with_name("killed_runs.py")
 
@@ -17,7 +17,7 @@ class Killed(unittest.TestCase):
     def test_killed_at_any_moment(self):
         """Several at a time where each can have a machine view of its own, for each run has to wait
         for the opening picture."""
-        workers = min(4, KILLS) if machine.is_isolated() else 1
+        workers = min(8, KILLS) if machine.is_isolated() else 1
         started = []
         for worker in range(workers):
             environment = dict(os.environ, KEYFLUENT_SEED=str(SEED * 1000 + worker),
