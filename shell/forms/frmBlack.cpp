@@ -334,27 +334,26 @@ void frmBlack::LayOut()
 
 void frmBlack::resizeEvent(QResizeEvent*)
 {
-    backdrop_ = {};
     LayOut();
 }
 
-// The picture covers the window at any size: what its shape leaves over is cut off evenly.
+// The picture covers the window at any size: what its shape leaves over is cut off evenly. It is
+// decoded anew each time, which happens with the window's size alone, rather than kept in several
+// megabytes: the surface keeps what other windows cover, and what changes stands in the band.
 void frmBlack::paintEvent(QPaintEvent* event)
 {
-    const qreal ratio = devicePixelRatioF();
-    const QSize wanted = size() * ratio;
-    if (backdrop_.size() != wanted) {
-        backdrop_ = ScaledBackdrop(backdropPicture, wanted);
-        backdrop_.setDevicePixelRatio(ratio);
-    }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, backdrop_);
     const QRect band(0, height() - bandHeight, width(), bandHeight);
-    const QRect damaged = band.intersected(event->region().boundingRect());
-    if (!damaged.isEmpty()) {
-        painter.setClipRect(damaged);
+    if (!event->region().subtracted(band).subtracted(menuBar_->geometry()).isEmpty()) {
+        QPixmap backdrop = ScaledBackdrop(backdropPicture, size() * devicePixelRatioF());
+        backdrop.setDevicePixelRatio(devicePixelRatioF());
+        painter.drawPixmap(0, 0, backdrop);
+    }
+    for (const QRect& damaged : event->region().intersected(band)) {
+        painter.save();
         painter.translate(band.topLeft());
-        PaintStripes(painter, {0, 0, band.width(), band.height()});
+        PaintStripes(painter, damaged.translated(-band.topLeft()));
+        painter.restore();
     }
 }
 

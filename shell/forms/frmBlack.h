@@ -116,7 +116,6 @@ private:
     std::array<QAction*, 6> mnuRecomand1_{};
     std::array<QAction*, 11> mnuHelp1_{};
     std::array<StepButton, 4> buttons_;
-    QPixmap backdrop_; // at the window's size
 };
 
 } // namespace keyfluent::shell
