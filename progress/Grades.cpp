@@ -27,6 +27,19 @@ constexpr GradeRange englishGrades[] = {
     {1051, 1400, 1},
 };
 
+// Each range begins where the one before it ends.
+static_assert([] {
+    for (const std::span<const GradeRange> ranges :
+         {std::span<const GradeRange>(arabicGrades), std::span<const GradeRange>(englishGrades)}) {
+        for (std::size_t i = 1; i < ranges.size(); ++i) {
+            if (ranges[i].lowest != ranges[i - 1].highest + 1) {
+                return false;
+            }
+        }
+    }
+    return true;
+}());
+
 std::optional<std::uint8_t> GradeIn(std::span<const GradeRange> ranges, std::int16_t total)
 {
     for (const GradeRange& range : ranges) {
