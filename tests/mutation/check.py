@@ -229,15 +229,21 @@ def explained():
     return found
 
 
+def nearest(source, text, line):
+    """Where text stands in source, the nearest to a line; -1 for nowhere."""
+    places = [match.start() for match in re.finditer(re.escape(text), source)]
+    return min(places, key=lambda at: abs(source.count("\n", 0, at) + 1 - line), default=-1)
+
+
 def reported_survivors(report):
     """The mutants that a report says have survived, where their line still stands."""
     for block in report.read_text(encoding="utf-8").split("\n\n"):
         lines = block.strip().splitlines()
         if len(lines) != 3 or " SURVIVED: " not in lines[0]:
             continue
-        path = lines[0].split(" SURVIVED: ")[1].rsplit(":", 1)[0]
+        path, place = lines[0].split(" SURVIVED: ")[1].rsplit(":", 1)
         source = (ROOT / path).read_text(encoding="utf-8")
-        start = source.find(lines[1][2:])
+        start = nearest(source, lines[1][2:], int(place.split(" ")[0]))
         if start < 0:
             print(f"no longer there: {path}\n{lines[1]}\n")
             continue
