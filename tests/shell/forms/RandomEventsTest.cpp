@@ -142,6 +142,9 @@ void RandomEventsTest::ThroughAllWindows()
 
 } // namespace keyfluent::shell
 
+// Many runs take longer than the test frame lets a test go on.
+[[maybe_unused]] static const bool timeIsGiven = qputenv("QTEST_FUNCTION_TIMEOUT", "86400000");
+
 KEYFLUENT_FORMS_TEST_MAIN(keyfluent::shell::RandomEventsTest)
 
 #include "RandomEventsTest.moc"

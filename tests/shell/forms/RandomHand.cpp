@@ -58,6 +58,14 @@ void SendPlaceTo(QWidget& window, QEvent::Type type, quint32 place,
     QCoreApplication::sendEvent(window.windowHandle(), &event);
 }
 
+// One event through the window system, shortcuts included. The test frame's own functions send
+// several, and the first of them may have closed the window.
+void SendKeyTo(QWidget& window, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers,
+               const QString& text = {})
+{
+    qt_handleKeyEvent(window.windowHandle(), type, key, modifiers, text);
+}
+
 struct Stroke {
     quint32 place = 0; // 0 for none
     bool shift = false;
@@ -299,9 +307,9 @@ void RandomHand::PressKey(QWidget& window)
     const Qt::Key key = keys[Draw(static_cast<int>(std::size(keys)))];
     const QPointer<QWidget> guard(&window);
     const Qt::KeyboardModifiers modifiers = AnyModifiers();
-    QTest::sendKeyEvent(QTest::Press, window.windowHandle(), key, QString(), modifiers);
+    SendKeyTo(window, QEvent::KeyPress, key, modifiers);
     if (guard != nullptr && guard->isVisible() && Draw(8) != 0) {
-        QTest::sendKeyEvent(QTest::Release, guard->windowHandle(), key, QString(), modifiers);
+        SendKeyTo(*guard, QEvent::KeyRelease, key, modifiers);
     }
 }
 
@@ -324,11 +332,12 @@ void RandomHand::TypeText(QWidget& window)
     const QPointer<QWidget> guard(&window);
     const QString text = QString::fromUtf8(texts[Draw(static_cast<int>(std::size(texts)))]);
     for (const QChar unit : text) {
-        if (guard == nullptr || !guard->isVisible()) {
-            return;
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            if (guard == nullptr || !guard->isVisible()) {
+                return;
+            }
+            SendKeyTo(*guard, type, Qt::Key_unknown, {}, QString(unit));
         }
-        QTest::sendKeyEvent(QTest::Click, guard->windowHandle(), Qt::Key_unknown, QString(unit),
-                            Qt::NoModifier);
     }
 }
 
