@@ -3,10 +3,10 @@
 // alone.
 #include "session/Keystrokes.h"
 #include "context/CodePage1256.h"
+#include "context/KeyboardKind.h"
 #include "context/Random.h"
 #include "keyboard/KeyCodes.h"
 #include "keyboard/KeyJudging.h"
-#include "keyboard/KeyboardKind.h"
 #include "session/Loading.h"
 #include "session/Review.h"
 
@@ -59,7 +59,7 @@ struct Bench {
         state.lessonNo = static_cast<std::uint8_t>(lesson);
         state.exerciseNo = static_cast<std::uint8_t>(exercise);
         state.arabicExercise = arabic;
-        state.keyboardKind = keyboard::windowsKeyboard;
+        state.keyboardKind = context::windowsKeyboard;
         state.optKeyCaps = true;
         state.optHands = true;
         Reopen();

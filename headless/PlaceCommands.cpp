@@ -1,8 +1,8 @@
 #include "headless/Commands.h"
 
+#include "context/KeyboardKind.h"
 #include "course/Notes.h"
 #include "headless/Json.h"
-#include "keyboard/KeyboardKind.h"
 #include "progress/Chooser.h"
 #include "progress/Leaving.h"
 #include "progress/SignIn.h"
@@ -42,8 +42,8 @@ std::string Commands::Keyboard(Console& console, const Arguments& arguments)
     arguments.Expect(1);
     const bool windows = arguments.Choice(0, "win", "mac");
     console.shownButtons_ = {};
-    progress::SynchroniseKeyboard(console.context_, windows ? keyboard::windowsKeyboard
-                                                            : keyboard::macintoshKeyboard);
+    progress::SynchroniseKeyboard(console.context_,
+                                  windows ? context::windowsKeyboard : context::macintoshKeyboard);
     return {};
 }
 
@@ -74,7 +74,7 @@ std::string Commands::Menu(Console& console, const Arguments& arguments)
     object.Add("enabledLessons", progress::EnabledLessons(context));
     object.Add("checkedLesson", int(context.lessonNo));
     object.AddRaw("checkedKeyboard",
-                  keyboard::CountsAsWindows(context.keyboardKind) ? "\"win\"" : "\"mac\"");
+                  context::CountsAsWindows(context.keyboardKind) ? "\"win\"" : "\"mac\"");
     object.Add("viewDiploma", progress::CanViewDiploma(context));
     object.Add("imgNext", console.shownButtons_.next).Add("imgBack", console.shownButtons_.back);
     return object.Add("imgDuplicate", console.shownButtons_.duplicate).Line() + "\n";

@@ -1,7 +1,7 @@
 #include "keyboard/Fingers.h"
 
+#include "context/KeyboardKind.h"
 #include "keyboard/CharacterIndex.h"
-#include "keyboard/KeyboardKind.h"
 
 namespace keyfluent::keyboard
 {
@@ -112,7 +112,7 @@ constexpr CharacterIndex windowsEnglishIndex = MakeIndex(true, false);
 
 const CharacterIndex& IndexFor(std::int32_t keyboardKind, bool arabicExercise)
 {
-    if (!CountsAsWindows(keyboardKind)) {
+    if (!context::CountsAsWindows(keyboardKind)) {
         return macIndex;
     }
     return arabicExercise ? windowsArabicIndex : windowsEnglishIndex;

@@ -1,8 +1,8 @@
 #include "keyboard/Highlight.h"
 
+#include "context/KeyboardKind.h"
 #include "keyboard/CharacterIndex.h"
 #include "keyboard/KeyCaps.h"
-#include "keyboard/KeyboardKind.h"
 
 namespace keyfluent::keyboard
 {
@@ -121,7 +121,7 @@ static_assert(CharacterIndex::none == noCap);
 
 int CapOfCharacter(std::u16string_view character, std::int32_t keyboardKind, bool arabicExercise)
 {
-    return indexes[CountsAsWindows(keyboardKind)][arabicExercise].Find(character);
+    return indexes[context::CountsAsWindows(keyboardKind)][arabicExercise].Find(character);
 }
 
 } // namespace keyfluent::keyboard

@@ -1,7 +1,7 @@
 #include "keyboard/KeyJudging.h"
 
 #include "context/CodePage1256.h"
-#include "keyboard/KeyboardKind.h"
+#include "context/KeyboardKind.h"
 
 #include <array>
 #include <string_view>
@@ -175,7 +175,7 @@ bool IsValidKey(int keyCode, std::uint8_t expectedCode, bool shiftDown, bool cap
     if (IsCapitalLatin(expected)) {
         return keyCode == expected && (shiftDown || capsOn);
     }
-    const bool windows = CountsAsWindows(keyboardKind);
+    const bool windows = context::CountsAsWindows(keyboardKind);
     if (!arabicExercise) {
         if (const EnglishSign* sign = FindEnglishSign(expected, windows)) {
             return keyCode == sign->keyCode && shiftDown == sign->shift;

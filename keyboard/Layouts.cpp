@@ -1,6 +1,6 @@
 #include "keyboard/Layouts.h"
 
-#include "keyboard/KeyboardKind.h"
+#include "context/KeyboardKind.h"
 
 namespace keyfluent::keyboard
 {
@@ -101,9 +101,9 @@ CharacterText CharacterColumn(std::int32_t keyboardKind, bool shifted, bool arab
         return shifted ? &CharacterKey::englishShift : &CharacterKey::english;
     }
     switch (keyboardKind) {
-    case macintoshKeyboard:
+    case context::macintoshKeyboard:
         return shifted ? &CharacterKey::arabicMacShift : &CharacterKey::arabicMac;
-    case windowsKeyboard:
+    case context::windowsKeyboard:
         return shifted ? &CharacterKey::arabicWindowsShift : &CharacterKey::arabicWindows;
     default: // Meant: a kind out of range has English caps, but no Arabic ones.
         return nullptr;
@@ -112,7 +112,7 @@ CharacterText CharacterColumn(std::int32_t keyboardKind, bool shifted, bool arab
 
 NamedText NamedColumn(std::int32_t keyboardKind, bool arabicExercise)
 {
-    if (CountsAsWindows(keyboardKind)) {
+    if (context::CountsAsWindows(keyboardKind)) {
         return arabicExercise ? &NamedKey::arabicWindows : &NamedKey::englishWindows;
     }
     return arabicExercise ? &NamedKey::arabicMac : &NamedKey::englishMac;

@@ -2,6 +2,7 @@
 // rule means.
 #pragma once
 
+#include "context/KeyboardKind.h"
 #include "context/SessionContext.h"
 
 #include <cstdint>
@@ -9,19 +10,16 @@
 namespace keyfluent::progress
 {
 
-inline constexpr std::int32_t macintoshKeyboard = 0;
-inline constexpr std::int32_t windowsKeyboard = 192;
-
 // The preferences file is not range-checked, so a kind that is neither of the two can be in force
 // until the main window first sets the keyboard right. Meant: most rules count such a kind as
 // Windows, but the ones that ask for the Windows keyboard by its number do not.
 inline bool CountsAsWindows(const context::SessionContext& context)
 {
-    return context.keyboardKind != macintoshKeyboard;
+    return context::CountsAsWindows(context.keyboardKind);
 }
 inline bool IsWindowsByNumber(const context::SessionContext& context)
 {
-    return context.keyboardKind == windowsKeyboard;
+    return context.keyboardKind == context::windowsKeyboard;
 }
 
 inline std::uint8_t& ReachedLesson(context::SessionContext& context, bool onWindows)

@@ -26,13 +26,13 @@ bool ChooseLesson(SessionContext& context, std::uint8_t lesson)
 
 void SynchroniseKeyboard(SessionContext& context, std::int32_t kind)
 {
-    if (kind == macintoshKeyboard) {
+    if (kind == context::macintoshKeyboard) {
         context.lastLessonWin = context.lessonNo;
-        context.keyboardKind = macintoshKeyboard;
+        context.keyboardKind = context::macintoshKeyboard;
         context.lessonNo = std::min(context.lastLessonMac, context.reachedLessonMac);
     } else {
         context.lastLessonMac = context.lessonNo;
-        context.keyboardKind = windowsKeyboard;
+        context.keyboardKind = context::windowsKeyboard;
         context.lessonNo = std::min(context.lastLessonWin, context.reachedLessonWin);
     }
 }

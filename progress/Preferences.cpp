@@ -84,7 +84,7 @@ Preferences DefaultPreferences()
 {
     Preferences preferences;
     preferences.arabicInterface = true;
-    preferences.keyboardKind = windowsKeyboard;
+    preferences.keyboardKind = context::windowsKeyboard;
     preferences.fontSize = 14;
     preferences.trueKeyColour = 0x000000;
     preferences.errKeyColour = 0x0000FF;
@@ -131,8 +131,9 @@ void SavePreferences(SessionContext& context, const PreferencesForm& form)
     RecordFile file(PreferencesPath(context));
     Preferences preferences;
     preferences.arabicInterface = form.arabicInterface;
-    preferences.keyboardKind =
-        form.keyboardKind == macintoshKeyboard ? macintoshKeyboard : windowsKeyboard;
+    preferences.keyboardKind = form.keyboardKind == context::macintoshKeyboard
+                                   ? context::macintoshKeyboard
+                                   : context::windowsKeyboard;
     preferences.fontSize = FontSizeOf(form.size);
     preferences.trueKeyColour = form.trueKeyColour;
     preferences.errKeyColour = form.errKeyColour;

@@ -1,11 +1,11 @@
 #include "session/Caps.h"
 
+#include "context/KeyboardKind.h"
 #include "course/Lessons.h"
 #include "course/Regimes.h"
 #include "keyboard/Fingers.h"
 #include "keyboard/Highlight.h"
 #include "keyboard/KeyCodes.h"
-#include "keyboard/KeyboardKind.h"
 #include "keyboard/Layouts.h"
 #include "session/Pictures.h"
 
@@ -89,7 +89,7 @@ void SelectPressedKey(Lesson& lesson, int keyCode)
     } else if (keyCode == keyboard::keySpace && lateOrLast) {
         text[Index(keyboard::capSpace)] = u" ";
     } else if (keyCode == keyboard::keyLamAlef && late && context.arabicExercise &&
-               keyboard::CountsAsWindows(context.keyboardKind)) {
+               context::CountsAsWindows(context.keyboardKind)) {
         // The key of the two letters gives the first where the exercise types through.
         text[Index(keyboard::capLamAlef)] = u"ل";
     }

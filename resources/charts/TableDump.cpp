@@ -11,10 +11,10 @@
 // Lengths are twips. The sign is drawn in place of the text where it is not empty. A hand at rest
 // is
 // "", a finger its English name; shiftCap is -1 where no Shift is held.
+#include "context/KeyboardKind.h"
 #include "context/Text.h"
 #include "keyboard/Fingers.h"
 #include "keyboard/KeyCaps.h"
-#include "keyboard/KeyboardKind.h"
 #include "keyboard/Layouts.h"
 
 #include <array>
@@ -66,7 +66,7 @@ Texts TextsOf(bool arabic, bool shifted)
     for (std::size_t cap = 0; cap < texts.size(); ++cap) {
         texts[cap] = keyboard::CapDesigns()[cap].designText;
     }
-    keyboard::WriteCapTexts(keyboard::windowsKeyboard, shifted, arabic, texts);
+    keyboard::WriteCapTexts(context::windowsKeyboard, shifted, arabic, texts);
     return texts;
 }
 
@@ -104,7 +104,7 @@ void PrintFingers(std::ostream& out, bool arabicExercise)
     std::string_view between = "\n";
     for (const std::u16string& character : characters) {
         const keyboard::Fingers fingers =
-            keyboard::FingersOf(character, keyboard::windowsKeyboard, arabicExercise);
+            keyboard::FingersOf(character, context::windowsKeyboard, arabicExercise);
         out << between << Quoted(character)
             << ": {\"left\": " << Quoted(fingerNames[static_cast<std::size_t>(fingers.left)])
             << ", \"right\": " << Quoted(fingerNames[static_cast<std::size_t>(fingers.right)])

@@ -1,7 +1,7 @@
 #include "shell/forms/frmBlack.h"
 
+#include "context/KeyboardKind.h"
 #include "course/Notes.h"
-#include "keyboard/KeyboardKind.h"
 #include "progress/Leaving.h"
 #include "progress/Place.h"
 #include "shell/Program.h"
@@ -180,7 +180,7 @@ void frmBlack::Deactivate()
 
 void frmBlack::RefreshKeyboardItems()
 {
-    const bool windows = keyboard::CountsAsWindows(program_.State().keyboardKind);
+    const bool windows = context::CountsAsWindows(program_.State().keyboardKind);
     mnuFileMacKeyboard_->setChecked(!windows);
     mnuFileWinKeyboard_->setChecked(windows);
 }
@@ -206,12 +206,12 @@ void frmBlack::SwitchKeyboard(int kind)
 
 void frmBlack::UseMacintosh()
 {
-    SwitchKeyboard(keyboard::macintoshKeyboard);
+    SwitchKeyboard(context::macintoshKeyboard);
 }
 
 void frmBlack::UseWindows()
 {
-    SwitchKeyboard(keyboard::windowsKeyboard);
+    SwitchKeyboard(context::windowsKeyboard);
 }
 
 void frmBlack::OpenPreferences()

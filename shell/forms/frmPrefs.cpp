@@ -1,6 +1,6 @@
 #include "shell/forms/frmPrefs.h"
 
-#include "keyboard/KeyboardKind.h"
+#include "context/KeyboardKind.h"
 #include "progress/Preferences.h"
 #include "shell/Program.h"
 #include "shell/base/Twips.h"
@@ -121,7 +121,7 @@ frmPrefs::frmPrefs(Program& program) : Form(program, "frmPrefs", {formWidth, for
                         !shown.arabicInterface);
     system_ = AddBox("imgSystem", "lblSystem", 94,
                      arabic ? u"اعتماد لوحة مفاتيح الماكنتوش." : u"Use Macintosh Keyboard",
-                     shown.keyboardKind == keyboard::macintoshKeyboard);
+                     shown.keyboardKind == context::macintoshKeyboard);
     hand_ = AddBox("imgHand", "lblHand", 122,
                    arabic ? u"استخدم الأيدي الملونة للتوضيح." : u"Use the colored hands.",
                    shown.colouredHands);
@@ -209,8 +209,8 @@ void frmPrefs::Confirm()
     txtSize_->setText(QString::number(progress::FontSizeOf(size)));
     progress::PreferencesForm form;
     form.arabicInterface = interface_.image->Bitmap() != boxTicked;
-    form.keyboardKind = system_.image->Bitmap() == boxTicked ? keyboard::macintoshKeyboard
-                                                             : keyboard::windowsKeyboard;
+    form.keyboardKind = system_.image->Bitmap() == boxTicked ? context::macintoshKeyboard
+                                                             : context::windowsKeyboard;
     form.size = FromQString(txtSize_->text());
     form.trueKeyColour = ColourOf(lblHilite_->Colour());
     form.errKeyColour = ColourOf(lblWarn_->Colour());

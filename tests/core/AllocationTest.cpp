@@ -106,7 +106,7 @@ TEST_F(AllocationTest, TheAllocatorIsReallyCounted)
 
 TEST_F(AllocationTest, AWholeTextTypedRightAsksForNoMemory)
 {
-    for (const std::int32_t kind : {windowsKeyboard, macintoshKeyboard}) {
+    for (const std::int32_t kind : {context::windowsKeyboard, context::macintoshKeyboard}) {
         context.keyboardKind = kind;
         for (const Language language : {Language::English, Language::Arabic}) {
             for (int lesson = 1; lesson <= 15; ++lesson) {

@@ -67,7 +67,7 @@ TEST_F(CapsTest, SevenSignsGoByTheExercisesLanguage)
     Open(1, 1, Language::English);
     HighlightKey(It(), u"[");
     EXPECT_EQ(Looks(), "44 lit");
-    context.keyboardKind = keyboard::macintoshKeyboard;
+    context.keyboardKind = context::macintoshKeyboard;
     HighlightKey(It(), u"<");
     EXPECT_EQ(Looks(), "69 lit");
 }
@@ -189,11 +189,11 @@ TEST_F(CapsTest, TheKeyOfTwoLettersGivesTheFirstWhereArabicIsTypedThrough)
     EXPECT_EQ(CapText(65), "لآ");
     SelectPressedKey(It(), 66);
     EXPECT_EQ(CapText(65), "ل");
-    context.keyboardKind = keyboard::macintoshKeyboard;
+    context.keyboardKind = context::macintoshKeyboard;
     Open();
     SelectPressedKey(It(), 66);
     EXPECT_EQ(CapText(65), "ز");
-    context.keyboardKind = keyboard::windowsKeyboard;
+    context.keyboardKind = context::windowsKeyboard;
     Open(14, 1, Language::English);
     SelectPressedKey(It(), 66);
     EXPECT_EQ(CapText(65), "b");

@@ -129,7 +129,7 @@ TEST(Fingers, EveryCharacterHasTheFingersOfItsPlaceOrLeavesTheHandsAtRest)
                 const auto character = static_cast<char16_t>(code);
                 const std::u16string_view text(&character, 1);
                 ASSERT_EQ(FingersOf(text, kind, arabic),
-                          FingersByLayout(character, kind != macintoshKeyboard, arabic))
+                          FingersByLayout(character, kind != context::macintoshKeyboard, arabic))
                     << Setting(kind, arabic) << ", " << CodePoints(text);
             }
         }
@@ -216,8 +216,8 @@ TEST(Fingers, SignsThatDependOnTheLanguageOnAWindowsKeyboard)
         {u"<", RightWithShift(5), RightWithShift(3)}, {u">", RightWithShift(5), RightWithShift(4)}};
     for (const Sign& sign : signs) {
         const std::string shown = CodePoints(sign.sign);
-        EXPECT_EQ(FingersOf(sign.sign, windowsKeyboard, true), sign.arabic) << shown;
-        EXPECT_EQ(FingersOf(sign.sign, windowsKeyboard, false), sign.english) << shown;
+        EXPECT_EQ(FingersOf(sign.sign, context::windowsKeyboard, true), sign.arabic) << shown;
+        EXPECT_EQ(FingersOf(sign.sign, context::windowsKeyboard, false), sign.english) << shown;
     }
 }
 
@@ -226,16 +226,16 @@ TEST(Fingers, NothingDependsOnTheLanguageOnAMacintoshKeyboard)
     for (int code = 0; code <= 0xFFFF; ++code) {
         const auto character = static_cast<char16_t>(code);
         const std::u16string_view text(&character, 1);
-        ASSERT_EQ(FingersOf(text, macintoshKeyboard, true),
-                  FingersOf(text, macintoshKeyboard, false))
+        ASSERT_EQ(FingersOf(text, context::macintoshKeyboard, true),
+                  FingersOf(text, context::macintoshKeyboard, false))
             << CodePoints(text);
     }
-    EXPECT_EQ(FingersOf(u",", macintoshKeyboard, true), RightAlone(3));
-    EXPECT_EQ(FingersOf(u"،", macintoshKeyboard, true), RightAlone(3));
-    EXPECT_EQ(FingersOf(u".", macintoshKeyboard, true), RightAlone(4));
-    EXPECT_EQ(FingersOf(u"/", macintoshKeyboard, true), RightAlone(5));
-    EXPECT_EQ(FingersOf(u"<", macintoshKeyboard, true), RightWithShift(3));
-    EXPECT_EQ(FingersOf(u">", macintoshKeyboard, true), RightWithShift(4));
+    EXPECT_EQ(FingersOf(u",", context::macintoshKeyboard, true), RightAlone(3));
+    EXPECT_EQ(FingersOf(u"،", context::macintoshKeyboard, true), RightAlone(3));
+    EXPECT_EQ(FingersOf(u".", context::macintoshKeyboard, true), RightAlone(4));
+    EXPECT_EQ(FingersOf(u"/", context::macintoshKeyboard, true), RightAlone(5));
+    EXPECT_EQ(FingersOf(u"<", context::macintoshKeyboard, true), RightWithShift(3));
+    EXPECT_EQ(FingersOf(u">", context::macintoshKeyboard, true), RightWithShift(4));
 }
 
 TEST(Fingers, OtherSignsDoNotDependOnTheLanguageOnAWindowsKeyboard)
@@ -244,8 +244,8 @@ TEST(Fingers, OtherSignsDoNotDependOnTheLanguageOnAWindowsKeyboard)
         const auto character = static_cast<char16_t>(code);
         const std::u16string_view text(&character, 1);
         if (!IsIn(character, u",،./<>")) {
-            ASSERT_EQ(FingersOf(text, windowsKeyboard, true),
-                      FingersOf(text, windowsKeyboard, false))
+            ASSERT_EQ(FingersOf(text, context::windowsKeyboard, true),
+                      FingersOf(text, context::windowsKeyboard, false))
                 << CodePoints(text);
         }
     }
@@ -274,8 +274,8 @@ TEST(Fingers, TheRoundBracketsHaveTheArabicFingersInEnglishToo)
 TEST(Fingers, TheTatweelHasItsOwnFingerOnEachKeyboard)
 {
     for (bool arabic : bothWays) {
-        EXPECT_EQ(FingersOf(u"\u0640", windowsKeyboard, arabic), RightWithShift(2));
-        EXPECT_EQ(FingersOf(u"\u0640", macintoshKeyboard, arabic), RightWithShift(5));
+        EXPECT_EQ(FingersOf(u"\u0640", context::windowsKeyboard, arabic), RightWithShift(2));
+        EXPECT_EQ(FingersOf(u"\u0640", context::macintoshKeyboard, arabic), RightWithShift(5));
     }
 }
 

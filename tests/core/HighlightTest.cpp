@@ -63,7 +63,7 @@ TEST(Highlight, EveryCharacterLightsItsCapOfTheLayoutsOrNone)
                 const auto character = static_cast<char16_t>(code);
                 const std::u16string_view text(&character, 1);
                 ASSERT_EQ(CapOfCharacter(text, kind, arabic),
-                          CapByLayout(character, kind != macintoshKeyboard, arabic))
+                          CapByLayout(character, kind != context::macintoshKeyboard, arabic))
                     << Setting(kind, arabic) << ", " << CodePoints(text);
             }
         }
@@ -115,10 +115,10 @@ TEST(Highlight, SevenSignsDependOnTheLanguage)
                           {u"]", 45, 50, 45, 45}};
     for (const Sign& sign : signs) {
         const std::string shown = CodePoints(sign.sign);
-        EXPECT_EQ(Cap(sign.sign, windowsKeyboard, false), sign.windowsEnglish) << shown;
-        EXPECT_EQ(Cap(sign.sign, windowsKeyboard, true), sign.windowsArabic) << shown;
-        EXPECT_EQ(Cap(sign.sign, macintoshKeyboard, false), sign.macEnglish) << shown;
-        EXPECT_EQ(Cap(sign.sign, macintoshKeyboard, true), sign.macArabic) << shown;
+        EXPECT_EQ(Cap(sign.sign, context::windowsKeyboard, false), sign.windowsEnglish) << shown;
+        EXPECT_EQ(Cap(sign.sign, context::windowsKeyboard, true), sign.windowsArabic) << shown;
+        EXPECT_EQ(Cap(sign.sign, context::macintoshKeyboard, false), sign.macEnglish) << shown;
+        EXPECT_EQ(Cap(sign.sign, context::macintoshKeyboard, true), sign.macArabic) << shown;
     }
 }
 
@@ -139,51 +139,51 @@ TEST(Highlight, AllOtherCharactersLightTheSameCapInBothLanguages)
 TEST(Highlight, OnTheMacintoshKeyboardTheAngleBracketsAreCrossed)
 {
     EXPECT_EQ(PlacesOf(u'<', false, false).front().cap, 68);
-    EXPECT_EQ(Cap(u"<", macintoshKeyboard, false), 69);
+    EXPECT_EQ(Cap(u"<", context::macintoshKeyboard, false), 69);
     EXPECT_EQ(PlacesOf(u'>', false, false).front().cap, 69);
-    EXPECT_EQ(Cap(u">", macintoshKeyboard, false), 68);
+    EXPECT_EQ(Cap(u">", context::macintoshKeyboard, false), 68);
 }
 
 TEST(Highlight, SignsOfTheArabicMacintoshLayoutThatLightTheirEnglishCaps)
 {
     EXPECT_EQ(PlacesOf(u'[', false, true).front().cap, 43);
-    EXPECT_EQ(Cap(u"[", macintoshKeyboard, true), 44);
+    EXPECT_EQ(Cap(u"[", context::macintoshKeyboard, true), 44);
     EXPECT_EQ(PlacesOf(u']', false, true).front().cap, 42);
-    EXPECT_EQ(Cap(u"]", macintoshKeyboard, true), 45);
+    EXPECT_EQ(Cap(u"]", context::macintoshKeyboard, true), 45);
     EXPECT_EQ(PlacesOf(u'_', false, true).front().cap, 16);
-    EXPECT_EQ(Cap(u"_", macintoshKeyboard, true), 27);
+    EXPECT_EQ(Cap(u"_", context::macintoshKeyboard, true), 27);
 }
 
 TEST(Highlight, SignsOfTheArabicWindowsLayoutThatLightOtherCaps)
 {
     EXPECT_EQ(PlacesOf(u'\'', true, true).front().cap, 40);
-    EXPECT_EQ(Cap(u"'", windowsKeyboard, true), 58);
+    EXPECT_EQ(Cap(u"'", context::windowsKeyboard, true), 58);
     EXPECT_EQ(PlacesOf(u'،', true, true).front().cap, 55);
-    EXPECT_EQ(Cap(u"،", windowsKeyboard, true), 68);
+    EXPECT_EQ(Cap(u"،", context::windowsKeyboard, true), 68);
 }
 
 TEST(Highlight, InAnArabicWindowsExerciseTheSquareBracketLightsTheKeyOfBeh)
 {
-    EXPECT_EQ(Cap(u"[", windowsKeyboard, true), Cap(u"ب", windowsKeyboard, true));
+    EXPECT_EQ(Cap(u"[", context::windowsKeyboard, true), Cap(u"ب", context::windowsKeyboard, true));
 }
 
 TEST(Highlight, LettersOfTheOtherLanguageAreLitToo)
 {
     for (bool arabic : bothWays) {
-        EXPECT_EQ(Cap(u"ش", windowsKeyboard, arabic), 48);
-        EXPECT_EQ(Cap(u"a", windowsKeyboard, arabic), 48);
-        EXPECT_EQ(Cap(u"A", macintoshKeyboard, arabic), 48);
-        EXPECT_EQ(Cap(u"ظ", windowsKeyboard, arabic), 70);
-        EXPECT_EQ(Cap(u"ظ", macintoshKeyboard, arabic), 61);
+        EXPECT_EQ(Cap(u"ش", context::windowsKeyboard, arabic), 48);
+        EXPECT_EQ(Cap(u"a", context::windowsKeyboard, arabic), 48);
+        EXPECT_EQ(Cap(u"A", context::macintoshKeyboard, arabic), 48);
+        EXPECT_EQ(Cap(u"ظ", context::windowsKeyboard, arabic), 70);
+        EXPECT_EQ(Cap(u"ظ", context::macintoshKeyboard, arabic), 61);
     }
 }
 
 TEST(Highlight, TheKeyOfLamAlefIsLitForTheLatinLetterOnly)
 {
     for (bool arabic : bothWays) {
-        EXPECT_EQ(Cap(u"b", windowsKeyboard, arabic), capLamAlef);
-        EXPECT_EQ(Cap(u"ل", windowsKeyboard, arabic), 52);
-        EXPECT_EQ(Cap(u"ا", windowsKeyboard, arabic), 53);
+        EXPECT_EQ(Cap(u"b", context::windowsKeyboard, arabic), capLamAlef);
+        EXPECT_EQ(Cap(u"ل", context::windowsKeyboard, arabic), 52);
+        EXPECT_EQ(Cap(u"ا", context::windowsKeyboard, arabic), 53);
     }
 }
 

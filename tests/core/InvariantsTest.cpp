@@ -37,7 +37,8 @@ public:
         driver_.context = {};
         driver_.context.lessonNo = 1;
         driver_.context.exerciseNo = 1;
-        driver_.context.keyboardKind = Draw(2) == 0 ? windowsKeyboard : macintoshKeyboard;
+        driver_.context.keyboardKind =
+            Draw(2) == 0 ? context::windowsKeyboard : context::macintoshKeyboard;
         driver_.context.reachedLessonMac = driver_.context.reachedLessonWin = 15;
         if (Draw(2) == 0) {
             driver_.context.reachedLessonMac = driver_.context.reachedLessonWin = 1;

@@ -275,7 +275,7 @@ TEST(KeyCaps, ASymbolCapShowsAPictureAndNoOtherCapDoes)
 
 TEST(KeyCaps, NamedCapsReadAsTheirNames)
 {
-    const auto texts = fixtures::Written(windowsKeyboard, false, false);
+    const auto texts = fixtures::Written(context::windowsKeyboard, false, false);
     EXPECT_EQ(Design(capEscape).designText, u"esc");
     EXPECT_EQ(Design(capF1).designText, u"F1");
     EXPECT_EQ(Design(capF12).designText, u"F12");

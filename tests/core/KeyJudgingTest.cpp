@@ -127,7 +127,7 @@ TEST(KeyJudging, EveryCodeIsRightOnTheKeysOfItsPlacesAndOnNoOther)
                     continue;
                 }
                 const Strokes expected =
-                    StrokesByLayout(character, kind != macintoshKeyboard, arabic);
+                    StrokesByLayout(character, kind != context::macintoshKeyboard, arabic);
                 for (bool capsOn : bothWays) {
                     const Strokes strokes =
                         Tried(static_cast<std::uint8_t>(code), capsOn, kind, arabic);
@@ -175,7 +175,7 @@ TEST(KeyJudging, ANumberThatIsNoKeyIsRightForNothing)
         for (int code = 0; code <= 255; ++code) {
             for (bool shift : bothWays) {
                 EXPECT_FALSE(IsValidKey(keyCode, static_cast<std::uint8_t>(code), shift, true,
-                                        windowsKeyboard, true))
+                                        context::windowsKeyboard, true))
                     << "key " << keyCode << ", code " << code;
             }
         }
@@ -200,8 +200,8 @@ TEST(KeyJudging, TheHyphenIsItsKeyWithoutShiftAndTheUnderscoreIsNoKey)
             EXPECT_EQ(Right(u'_', kind, arabic), Strokes{});
         }
     }
-    EXPECT_EQ(Right(u'\u0640', windowsKeyboard, true), (Strokes{{74, true}}));
-    EXPECT_EQ(Right(u'\u0640', macintoshKeyboard, true), (Strokes{{189, true}}));
+    EXPECT_EQ(Right(u'\u0640', context::windowsKeyboard, true), (Strokes{{74, true}}));
+    EXPECT_EQ(Right(u'\u0640', context::macintoshKeyboard, true), (Strokes{{189, true}}));
 }
 
 TEST(KeyJudging, SignsThatDependOnTheLanguage)
@@ -230,10 +230,10 @@ TEST(KeyJudging, SignsThatDependOnTheLanguage)
     };
     for (const Sign& sign : signs) {
         const std::string shown = CodePoints(std::u16string_view(&sign.sign, 1));
-        EXPECT_EQ(Right(sign.sign, windowsKeyboard, false), sign.windowsEnglish) << shown;
-        EXPECT_EQ(Right(sign.sign, windowsKeyboard, true), sign.windowsArabic) << shown;
-        EXPECT_EQ(Right(sign.sign, macintoshKeyboard, false), sign.macEnglish) << shown;
-        EXPECT_EQ(Right(sign.sign, macintoshKeyboard, true), sign.macArabic) << shown;
+        EXPECT_EQ(Right(sign.sign, context::windowsKeyboard, false), sign.windowsEnglish) << shown;
+        EXPECT_EQ(Right(sign.sign, context::windowsKeyboard, true), sign.windowsArabic) << shown;
+        EXPECT_EQ(Right(sign.sign, context::macintoshKeyboard, false), sign.macEnglish) << shown;
+        EXPECT_EQ(Right(sign.sign, context::macintoshKeyboard, true), sign.macArabic) << shown;
     }
 }
 
@@ -325,10 +325,10 @@ TEST(KeyJudging, TheEightMarksWantShift)
                                       {u'\u0652', 85}, {u'\u0651', 73}};
     for (bool arabic : bothWays) {
         for (const auto& [mark, keyCode] : windows) {
-            EXPECT_EQ(Right(mark, windowsKeyboard, arabic), (Strokes{{keyCode, true}}));
+            EXPECT_EQ(Right(mark, context::windowsKeyboard, arabic), (Strokes{{keyCode, true}}));
         }
         for (const auto& [mark, keyCode] : mac) {
-            EXPECT_EQ(Right(mark, macintoshKeyboard, arabic), (Strokes{{keyCode, true}}));
+            EXPECT_EQ(Right(mark, context::macintoshKeyboard, arabic), (Strokes{{keyCode, true}}));
         }
     }
 }
@@ -348,11 +348,11 @@ TEST(KeyJudging, TheKeyOfLamAlefIsRightForNeitherLetter)
 {
     for (bool shift : bothWays) {
         for (char16_t letter : {u'ل', u'ا', u'آ'}) {
-            EXPECT_FALSE(
-                IsValidKey(66, ToCodePage1256(letter), shift, false, windowsKeyboard, true));
+            EXPECT_FALSE(IsValidKey(66, ToCodePage1256(letter), shift, false,
+                                    context::windowsKeyboard, true));
         }
     }
-    EXPECT_EQ(Right(u'ل', windowsKeyboard, true), (Strokes{{71, false}}));
+    EXPECT_EQ(Right(u'ل', context::windowsKeyboard, true), (Strokes{{71, false}}));
 }
 
 TEST(KeyJudging, AnArabicLetterHasNoRegardForCapsLock)
@@ -369,14 +369,14 @@ TEST(KeyJudging, AnArabicLetterHasNoRegardForCapsLock)
 
 TEST(KeyJudging, WawWithHamzaIsElsewhereOnEachKeyboard)
 {
-    EXPECT_EQ(Right(u'ؤ', windowsKeyboard, true), (Strokes{{67, false}}));
-    EXPECT_EQ(Right(u'ؤ', macintoshKeyboard, true), (Strokes{{77, true}}));
+    EXPECT_EQ(Right(u'ؤ', context::windowsKeyboard, true), (Strokes{{67, false}}));
+    EXPECT_EQ(Right(u'ؤ', context::macintoshKeyboard, true), (Strokes{{77, true}}));
 }
 
 TEST(KeyJudging, ACharacterOutsideTheCodePageIsNotTakenForAQuestionMark)
 {
     for (char16_t character : {u'\u06CC', u'\u0671', u'\u0661', u'\uFEFB', u'\u2192'}) {
-        EXPECT_EQ(Right(character, windowsKeyboard, true), Strokes{});
+        EXPECT_EQ(Right(character, context::windowsKeyboard, true), Strokes{});
     }
 }
 

@@ -25,7 +25,7 @@ using fixtures::PlacesOf;
 using fixtures::Setting;
 
 std::string Told(std::u16string_view character, bool arabicExercise, bool arabicWords,
-                 std::int32_t kind = windowsKeyboard)
+                 std::int32_t kind = context::windowsKeyboard)
 {
     return ToUtf8(KeyWords(character, kind, arabicExercise, arabicWords));
 }
@@ -95,8 +95,8 @@ TEST(KeyWords, ShiftHasNoSideWhereTheHandsRest)
 
 TEST(KeyWords, TheLayoutDecidesAboutShift)
 {
-    EXPECT_EQ(Told(u"،", true, false, windowsKeyboard), "Arabic comma with left Shift");
-    EXPECT_EQ(Told(u"،", true, false, macintoshKeyboard), "Arabic comma");
+    EXPECT_EQ(Told(u"،", true, false, context::windowsKeyboard), "Arabic comma with left Shift");
+    EXPECT_EQ(Told(u"،", true, false, context::macintoshKeyboard), "Arabic comma");
     EXPECT_EQ(Told(u".", true, false), "full stop with left Shift");
     EXPECT_EQ(Told(u".", false, false), "full stop");
 }
@@ -154,10 +154,10 @@ TEST(KeyWords, EveryCharacterOnACapHasANameOfItsOwn)
 // levels, on two keys, needs no Shift.
 TEST(KeyWords, ShiftIsWantedWhereTheCapsShowIt)
 {
-    for (const std::int32_t kind : {windowsKeyboard, macintoshKeyboard}) {
+    for (const std::int32_t kind : {context::windowsKeyboard, context::macintoshKeyboard}) {
         for (const bool arabic : bothWays) {
             for (const char16_t character : CharactersOfTheCourse(arabic)) {
-                const auto places = PlacesOf(character, kind == windowsKeyboard, arabic);
+                const auto places = PlacesOf(character, kind == context::windowsKeyboard, arabic);
                 if (places.empty()) {
                     continue; // Space, Return, and what the layout cannot type
                 }
@@ -175,7 +175,7 @@ TEST(KeyWords, AShiftCapThatTheFingersShowIsAlwaysTold)
     for (const bool arabic : bothWays) {
         for (const char16_t character : CharactersOfTheCourse(arabic)) {
             const std::u16string_view text(&character, 1);
-            const int shiftCap = FingersOf(text, windowsKeyboard, arabic).shiftCap;
+            const int shiftCap = FingersOf(text, context::windowsKeyboard, arabic).shiftCap;
             const std::string words = Told(text, arabic, false);
             EXPECT_EQ(words.ends_with(" with left Shift"), shiftCap == capLeftShift) << words;
             EXPECT_EQ(words.ends_with(" with right Shift"), shiftCap == capRightShift) << words;

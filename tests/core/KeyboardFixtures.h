@@ -2,7 +2,7 @@
 // points, and the layouts read from the caps.
 #pragma once
 
-#include "keyboard/KeyboardKind.h"
+#include "context/KeyboardKind.h"
 #include "keyboard/Layouts.h"
 
 #include <array>
@@ -17,8 +17,8 @@ namespace keyfluent::keyboard::fixtures
 {
 
 // Both keyboards, and kinds that a damaged preferences file may hold.
-inline constexpr std::array<std::int32_t, 6> kinds{windowsKeyboard,
-                                                   macintoshKeyboard,
+inline constexpr std::array<std::int32_t, 6> kinds{context::windowsKeyboard,
+                                                   context::macintoshKeyboard,
                                                    1,
                                                    -1,
                                                    std::numeric_limits<std::int32_t>::min(),
@@ -80,7 +80,8 @@ inline std::vector<Place> PlacesOf(char16_t character, bool windows, bool arabic
             for (bool arabic : bothWays) {
                 for (bool shift : bothWays) {
                     read[onWindows][arabic][shift] =
-                        Written(onWindows ? windowsKeyboard : macintoshKeyboard, shift, arabic);
+                        Written(onWindows ? context::windowsKeyboard : context::macintoshKeyboard,
+                                shift, arabic);
                 }
             }
         }

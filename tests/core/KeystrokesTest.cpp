@@ -292,7 +292,7 @@ TEST_F(KeystrokesTest, KeysWithoutACapCostNothing)
 
 TEST_F(KeystrokesTest, AKeyWhoseCapIsEmptyTypesNothing)
 {
-    context.keyboardKind = macintoshKeyboard;
+    context.keyboardKind = context::macintoshKeyboard;
     OpenRows(1, 1, Language::Arabic, {u"شس["});
     Key(keyShift);
     for (const int code : {65, 83, 70, 71, 74, 75, 76, 88, 192}) {
@@ -304,7 +304,7 @@ TEST_F(KeystrokesTest, AKeyWhoseCapIsEmptyTypesNothing)
 
 TEST_F(KeystrokesTest, WhatTheJudgeTakesButNoCapGivesCanNotBeTyped)
 {
-    context.keyboardKind = macintoshKeyboard;
+    context.keyboardKind = context::macintoshKeyboard;
     OpenRows(1, 1, Language::Arabic, {u"[ "});
     Strike({'F', true}); // right for the sign, but the cap is empty there
     EXPECT_EQ(State(), "1/1 [[]  |  | 0+0 running");
@@ -327,16 +327,16 @@ TEST_F(KeystrokesTest, AWrongSpaceOrEnterShowsTheWordOfItsCap)
         std::string word;
     };
     const Case cases[] = {
-        {Language::English, windowsKeyboard, keySpace, "Space"},
-        {Language::English, windowsKeyboard, keyEnter, "Return"},
-        {Language::Arabic, windowsKeyboard, keySpace, "المسافة"},
-        {Language::Arabic, windowsKeyboard, keyEnter, "إدخال"},
-        {Language::Arabic, macintoshKeyboard, keyEnter, "الرجوع"},
-        {Language::English, windowsKeyboard, keyEscape, "?"},
-        {Language::English, windowsKeyboard, keyF1 + 4, "F5"},
-        {Language::English, windowsKeyboard, keyF12, "F12"},
-        {Language::English, windowsKeyboard, keyPadMultiply, "*"},
-        {Language::Arabic, windowsKeyboard, keyLamAlef, "لا"},
+        {Language::English, context::windowsKeyboard, keySpace, "Space"},
+        {Language::English, context::windowsKeyboard, keyEnter, "Return"},
+        {Language::Arabic, context::windowsKeyboard, keySpace, "المسافة"},
+        {Language::Arabic, context::windowsKeyboard, keyEnter, "إدخال"},
+        {Language::Arabic, context::macintoshKeyboard, keyEnter, "الرجوع"},
+        {Language::English, context::windowsKeyboard, keyEscape, "?"},
+        {Language::English, context::windowsKeyboard, keyF1 + 4, "F5"},
+        {Language::English, context::windowsKeyboard, keyF12, "F12"},
+        {Language::English, context::windowsKeyboard, keyPadMultiply, "*"},
+        {Language::Arabic, context::windowsKeyboard, keyLamAlef, "لا"},
     };
     for (const Case& wanted : cases) {
         context.keyboardKind = wanted.kind;

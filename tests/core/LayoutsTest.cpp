@@ -95,14 +95,16 @@ TEST(Layouts, EnglishReadsTheSameOnEveryKeyboard)
 
 TEST(Layouts, ArabicReadsAsOnAWindowsKeyboard)
 {
-    ExpectCharacterCaps(Written(windowsKeyboard, false, true), arabicWindows, "Windows");
-    ExpectCharacterCaps(Written(windowsKeyboard, true, true), arabicWindowsShift, "Windows, Shift");
+    ExpectCharacterCaps(Written(context::windowsKeyboard, false, true), arabicWindows, "Windows");
+    ExpectCharacterCaps(Written(context::windowsKeyboard, true, true), arabicWindowsShift,
+                        "Windows, Shift");
 }
 
 TEST(Layouts, ArabicReadsAsOnAMacintoshKeyboard)
 {
-    ExpectCharacterCaps(Written(macintoshKeyboard, false, true), arabicMac, "Macintosh");
-    ExpectCharacterCaps(Written(macintoshKeyboard, true, true), arabicMacShift, "Macintosh, Shift");
+    ExpectCharacterCaps(Written(context::macintoshKeyboard, false, true), arabicMac, "Macintosh");
+    ExpectCharacterCaps(Written(context::macintoshKeyboard, true, true), arabicMacShift,
+                        "Macintosh, Shift");
 }
 
 TEST(Layouts, TheKeyTableHasOneRowForEachCharacterCap)
@@ -225,12 +227,12 @@ TEST(Layouts, LastingCapsAreWrittenAnewAtEveryChange)
 
 TEST(Layouts, ACapThatAKeyRewroteReadsAsDesignedAgain)
 {
-    CapTexts texts = Written(windowsKeyboard, false, true);
+    CapTexts texts = Written(context::windowsKeyboard, false, true);
     texts[capEscape] = u"?";
     texts[capReturn] = u"\u0691";
     texts[capSpace] = u" ";
     texts[capLamAlef] = u"ل";
-    WriteCapTexts(windowsKeyboard, true, true, texts);
+    WriteCapTexts(context::windowsKeyboard, true, true, texts);
     EXPECT_EQ(TextOf(texts, capEscape), u"esc");
     EXPECT_EQ(TextOf(texts, capReturn), u"إدخال");
     EXPECT_EQ(TextOf(texts, capSpace), u"المسافة");
@@ -252,15 +254,15 @@ TEST(Layouts, ShiftAndBackGivesTheSameCaps)
 
 TEST(Layouts, TheLamAlefKeyGivesTwoLettersOnAWindowsKeyboardOnly)
 {
-    EXPECT_EQ(TextOf(Written(windowsKeyboard, false, true), capLamAlef), u"لا");
-    EXPECT_EQ(TextOf(Written(windowsKeyboard, true, true), capLamAlef), u"لآ");
-    EXPECT_EQ(TextOf(Written(macintoshKeyboard, false, true), capLamAlef), u"ز");
-    EXPECT_EQ(TextOf(Written(macintoshKeyboard, true, true), capLamAlef), u"أ");
+    EXPECT_EQ(TextOf(Written(context::windowsKeyboard, false, true), capLamAlef), u"لا");
+    EXPECT_EQ(TextOf(Written(context::windowsKeyboard, true, true), capLamAlef), u"لآ");
+    EXPECT_EQ(TextOf(Written(context::macintoshKeyboard, false, true), capLamAlef), u"ز");
+    EXPECT_EQ(TextOf(Written(context::macintoshKeyboard, true, true), capLamAlef), u"أ");
 }
 
 TEST(Layouts, WithShiftNineKeysOfTheArabicMacintoshKeyboardTypeNothing)
 {
-    const CapTexts texts = Written(macintoshKeyboard, true, true);
+    const CapTexts texts = Written(context::macintoshKeyboard, true, true);
     std::set<int> empty;
     for (const CharacterKey& key : characterKeys) {
         if (TextOf(texts, key.cap).empty()) {
@@ -272,7 +274,7 @@ TEST(Layouts, WithShiftNineKeysOfTheArabicMacintoshKeyboardTypeNothing)
 
 TEST(Layouts, TheRoundBracketsAreMirroredInArabic)
 {
-    for (std::int32_t kind : {windowsKeyboard, macintoshKeyboard}) {
+    for (std::int32_t kind : {context::windowsKeyboard, context::macintoshKeyboard}) {
         EXPECT_EQ(TextOf(Written(kind, true, false), 25), u"(");
         EXPECT_EQ(TextOf(Written(kind, true, false), 26), u")");
         EXPECT_EQ(TextOf(Written(kind, true, true), 25), u")");

@@ -2,11 +2,11 @@
 // records what it is asked for, a lesson driven by keys and by time, and its state as one line.
 #pragma once
 
+#include "context/KeyboardKind.h"
 #include "context/Random.h"
 #include "context/Text.h"
 #include "keyboard/KeyCodes.h"
 #include "keyboard/KeyJudging.h"
-#include "keyboard/KeyboardKind.h"
 #include "session/Keystrokes.h"
 #include "session/Lesson.h"
 #include "session/Loading.h"
@@ -246,7 +246,7 @@ public:
 
     LessonDriver()
     {
-        context.keyboardKind = keyboard::windowsKeyboard;
+        context.keyboardKind = context::windowsKeyboard;
         context.fontSize = 12;
         context.trueKeyColour = trueColour;
         context.errKeyColour = errColour;

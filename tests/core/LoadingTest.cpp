@@ -127,7 +127,7 @@ TEST_F(LoadingTest, TheCapsAreLaidForTheKeyboardAndTheExercisesLanguage)
     EXPECT_EQ(CapText(48), "ش");
     EXPECT_EQ(CapText(65), "لا");
     EXPECT_EQ(CapText(59), "إدخال");
-    context.keyboardKind = keyboard::macintoshKeyboard;
+    context.keyboardKind = context::macintoshKeyboard;
     Open();
     EXPECT_EQ(CapText(65), "ز");
     EXPECT_EQ(CapText(59), "الرجوع");

@@ -18,7 +18,7 @@ namespace
 using namespace fixtures;
 using course::SpecialKind;
 
-constexpr std::int32_t kinds[] = {keyboard::windowsKeyboard, keyboard::macintoshKeyboard};
+constexpr std::int32_t kinds[] = {context::windowsKeyboard, context::macintoshKeyboard};
 
 struct CoursePlace {
     int lesson;

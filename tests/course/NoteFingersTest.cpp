@@ -4,9 +4,9 @@
 #include "TaughtFingers.h"
 #include "TaughtKeys.h"
 
+#include "context/KeyboardKind.h"
 #include "context/Text.h"
 #include "course/Notes.h"
-#include "keyboard/KeyboardKind.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ using keyboard::Fingers;
 
 std::int32_t KindOfKeyboard(bool windows)
 {
-    return windows ? keyboard::windowsKeyboard : keyboard::macintoshKeyboard;
+    return windows ? context::windowsKeyboard : context::macintoshKeyboard;
 }
 
 std::string OnKeyboard(bool windows)

@@ -1,10 +1,10 @@
 // What the charts tell, held against the tables that the exercises go by.
 #include "PictureSupport.h"
 
+#include "context/KeyboardKind.h"
 #include "context/Text.h"
 #include "keyboard/Fingers.h"
 #include "keyboard/KeyCaps.h"
-#include "keyboard/KeyboardKind.h"
 #include "keyboard/Layouts.h"
 
 #include <QFile>
@@ -96,7 +96,7 @@ Shown ShownOn(const QImage& chart, QRect face)
 int StrikerOf(std::u16string_view character, bool arabic)
 {
     const keyboard::Fingers fingers =
-        keyboard::FingersOf(character, keyboard::windowsKeyboard, arabic);
+        keyboard::FingersOf(character, context::windowsKeyboard, arabic);
     return fingers.shiftCap == keyboard::noCap ? std::max(fingers.left, fingers.right) : handAtRest;
 }
 
@@ -176,7 +176,7 @@ void ChartsTest::spaceReturnAndShiftHaveTheColoursOfTheirFingers()
              StrikerOf(std::u16string_view(&context::lineEndMark, 1), true));
 
     const auto shifted = [](std::u16string_view character) {
-        return keyboard::FingersOf(character, keyboard::windowsKeyboard, false);
+        return keyboard::FingersOf(character, context::windowsKeyboard, false);
     };
     QCOMPARE(shifted(u"K").shiftCap, keyboard::capLeftShift);
     QCOMPARE(shown(keyboard::capLeftShift), shifted(u"K").left);

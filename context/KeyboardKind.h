@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace keyfluent::keyboard
+namespace keyfluent::context
 {
 
 // A keyboard kind comes from the preferences file, which keeps 32 bits and checks no range. Where
@@ -16,4 +16,4 @@ constexpr bool CountsAsWindows(std::int32_t keyboardKind)
     return keyboardKind != macintoshKeyboard;
 }
 
-} // namespace keyfluent::keyboard
+} // namespace keyfluent::context
