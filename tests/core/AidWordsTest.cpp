@@ -1,6 +1,7 @@
 #include "session/AidWords.h"
 
 #include "LessonFixture.h"
+#include "session/Review.h"
 
 namespace keyfluent::session
 {
@@ -100,6 +101,7 @@ TEST_F(AidWords, TellTheMessageInTheReview)
     Type(u"d");
     ASSERT_TRUE(It().reviewMode);
     EXPECT_EQ(Said(), "No of Errors: 1. Please correct the text.");
+    It().txtOrigin.Select(0, 1);
     EXPECT_EQ(Keyboard(), "Keyboard");
 }
 
@@ -109,6 +111,11 @@ TEST_F(AidWords, HaveNothingToTellInFreeText)
     Open(1, 1, Language::English);
     EXPECT_EQ(Said(), "");
     EXPECT_EQ(Keyboard(), "Keyboard");
+
+    // What the student selects is not a key to type.
+    EditField(It().txtOrigin, 0, 0, u"as");
+    It().txtOrigin.Select(0, 1);
+    EXPECT_EQ(Said(), "");
 }
 
 } // namespace keyfluent::session

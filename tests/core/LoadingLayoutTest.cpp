@@ -235,6 +235,12 @@ TEST_F(LoadingLayoutTest, MarksStandOverTheirPlacesOfTheGauges)
     const auto middle = [](const Box& box) { return 2 * box.left + box.width; };
     const Box& mark = It().pbMark.box;
     const Box& speed = It().pbSpeed.box;
+    for (int number = 1; number <= scaleMarkCount; ++number) { // between the frame and the gauges
+        const Box& label = It().ScaleMark(number).box;
+        EXPECT_GT(label.top, It().shape1.box.top) << number;
+        EXPECT_EQ(label.height, 225) << number; // a line of eight points
+        EXPECT_LE(label.top + label.height, mark.top) << number;
+    }
     EXPECT_NEAR(middle(It().ScaleMark(1).box), middle(mark), 15); // half
     EXPECT_EQ(It().ScaleMark(3).box.left, mark.left);
     EXPECT_EQ(It().ScaleMark(2).box.left + It().ScaleMark(2).box.width, mark.left + mark.width);
