@@ -415,11 +415,13 @@ private slots:
 
     void PlayingEndsTheRest()
     {
-        OpenAndWait(Player::Char, "char");
-        player_->Rest();
+        OpenAndWait(Player::Char, "long");
         PrevPlay(Player::Char);
         QTRY_COMPARE(server_->PlayedCount(), std::size_t{1});
-        QTest::qWait(300); // beyond the moment at which the rest would have begun
+        player_->Rest(); // begins when the sound has ended
+        PrevPlay(Player::Char);
+        QTRY_COMPARE(server_->PlayedCount(), std::size_t{2});
+        QTest::qWait(900); // beyond that moment
         QCOMPARE(server_->Closes(), 0);
     }
 
