@@ -3,7 +3,8 @@
 
     python3 charts.py TABLES_FILE OUTDIR
 
-writes 146.svg (the whole keyboard), 147.svg (the numeric pad) and 148.svg (the guide row).
+writes 146.svg (the whole keyboard), 147.svg (the numeric pad), 148.svg (the guide row) and 138.svg
+to 141.svg (the keys of the index, middle, ring and little fingers).
 
 TABLES_FILE is what keyfluent-table-dump prints, so the places of the keys, what is written on
 them and who strikes them are the program's own. Only the numeric pad has no fingers there, as no
@@ -12,7 +13,7 @@ exercise asks for them: they are told here, in PAD_FINGERS.
 
 import json
 import sys
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
@@ -335,6 +336,43 @@ def numeric_pad(tables):
     return framed(220, 417, "".join(body))
 
 
+# Where the keyboard stands in the maps of a finger's keys: the size of the picture, the middle of
+# the board in it, its top, the two scales, and the scale of the hands under it.
+REACH_MAPS = {
+    138: ("index", 281, 214, 184.5, 16, 1.0, 0.94, 0.66),
+    139: ("middle", 420, 260, 201.5, 20, 0.96, 0.98, 0.86),
+    140: ("ring", 420, 260, 201.5, 20, 0.96, 0.98, 0.86),
+    141: ("little", 480, 280, 201.5, 22, 1.1, 1.06, 0.90),
+}
+
+
+def reach_map(tables, finger, width, height, middle, top, across, down, hand_scale):
+    """The keys of one finger of each hand, the guide key the strongest. The hands stand under the
+    keyboard, so that they hide no key, with the finger below its guide key."""
+    told, guide = strikers(tables), guide_caps(tables)
+    view = View(MAIN_ORIGIN, width / 2 - middle * across, top, across, down)
+    keys = [view.key(tables, cap) for cap in MAIN_BLOCK]
+    body = [plate_of(keys, 8)]
+    for key in keys:
+        own = key.cap in told and told[key.cap][1] == finger
+        colour, strong = FINGER_COLOURS[finger] if own else None, own and key.cap in guide
+        body.append(key_face(key, colour, strong))
+        if own and len(tables["caps"][key.cap]["english"]) == 1:
+            body.append(both_letters(tables, key, colour, strong))
+        elif own:
+            body.append(named(tables, key, colour, 12))
+    if finger == "index":
+        body.append(parting([k for k in keys if told.get(k.cap, ("", ""))[1] == finger], told))
+    tip = next(f.axis[-1][0] for f in hands.FINGERS if f.name == finger)
+    for hand in ("left", "right"):
+        home = next(key.centre()[0] for key in keys if guide.get(key.cap) == (hand, finger))
+        across_hand = tip if hand == "left" else hands.PLAIN_SIZE[0] - tip
+        x = home - across_hand * hand_scale
+        y = max(key.y + key.height for key in keys) + 6
+        body.append(coloured_hand(hand, {finger}, x, y, hand_scale))
+    return framed(width, height, "".join(body))
+
+
 # How far down its guide key a fingertip lies, in shares of the key's height: low, so that the
 # letters stay in sight, and on an arc, as the fingers are not of one length.
 TIP_DOWN = {"little": 1.04, "ring": 0.89, "middle": 0.84, "index": 0.91}
@@ -353,7 +391,10 @@ def laid_hand(hand, guide, keys):
         used["thumb"] = FINGER_COLOURS["thumb"]
     x, _ = rest_point(hand, "thumb")
     aims["thumb"] = (x, laid(0, keys[SPACE].y + keys[SPACE].height * 0.5)[1])
-    return LaidHand(hand, used, aims=aims, moved=(0.0, 13.0))
+    placed = LaidHand(hand, used, aims=aims, moved=(0.0, 13.0))
+    # The thumb lies flatter than in the set of hands, where its colour goes on to the wrist.
+    placed.fingers = tuple(replace(f, lit_from=()) for f in placed.fingers)
+    return placed
 
 
 # The window that shows this chart writes its caption over the end of the picture.
@@ -384,8 +425,10 @@ CHARTS = {146: whole_keyboard, 147: numeric_pad, 148: guide_row}
 def main(tables_file, folder):
     tables = json.loads(Path(tables_file).read_text(encoding="utf-8"))
     Path(folder).mkdir(parents=True, exist_ok=True)
-    for id_, draw in CHARTS.items():
-        (Path(folder) / ("%d.svg" % id_)).write_text(draw(tables), encoding="utf-8")
+    drawn = {id_: draw(tables) for id_, draw in CHARTS.items()}
+    drawn.update({id_: reach_map(tables, *place) for id_, place in REACH_MAPS.items()})
+    for id_, picture in drawn.items():
+        (Path(folder) / ("%d.svg" % id_)).write_text(picture, encoding="utf-8")
 
 
 if __name__ == "__main__":

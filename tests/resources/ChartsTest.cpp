@@ -124,6 +124,8 @@ private slots:
     void everyColumnOfThePadHasItsFinger_data();
     void everyColumnOfThePadHasItsFinger();
     void theGuideRowShowsTheKeysOfRestAlone();
+    void aMapColoursTheKeysOfItsFingerAlone_data();
+    void aMapColoursTheKeysOfItsFingerAlone();
 };
 
 void ChartsTest::initTestCase()
@@ -266,6 +268,40 @@ void ChartsTest::theGuideRowShowsTheKeysOfRestAlone()
         QCOMPARE(ShownOn(chart, faces.at(key.cap)), expected);
     }
     QCOMPARE(guideKeys, static_cast<int>(guideLetters.size()));
+}
+
+void ChartsTest::aMapColoursTheKeysOfItsFingerAlone_data()
+{
+    QTest::addColumn<int>("map");
+    QTest::addColumn<int>("mapped");
+    QTest::newRow("index") << 138 << keyboard::indexFinger;
+    QTest::newRow("middle") << 139 << keyboard::middleFinger;
+    QTest::newRow("ring") << 140 << keyboard::ringFinger;
+    QTest::newRow("little") << 141 << keyboard::littleFinger;
+}
+
+void ChartsTest::aMapColoursTheKeysOfItsFingerAlone()
+{
+    QFETCH(int, map);
+    QFETCH(int, mapped);
+    const QImage chart = Load(map, ratio);
+    const std::map<int, QRect> faces = FacesIn(map);
+    int coloured = 0;
+    for (const keyboard::CharacterKey& key : keyboard::characterKeys) {
+        int finger = StrikerOf(key.arabicWindows, true);
+        if (finger == handAtRest) {
+            finger = StrikerOf(key.english, false);
+        }
+        // The map of the index fingers ends before the ends of the keyboard.
+        const QRect face = faces.at(key.cap);
+        if (finger == handAtRest || !chart.rect().contains(face)) {
+            continue;
+        }
+        const bool own = finger == mapped;
+        coloured += own;
+        QCOMPARE(ShownOn(chart, face), own ? (Shown{finger, IsGuideKey(key)}) : Shown{});
+    }
+    QVERIFY(coloured >= 8);
 }
 
 } // namespace keyfluent::pictures

@@ -33,6 +33,9 @@ WORDS = [
     ("diploma", NOTO % "SerifDisplay-Regular", "DIPLOMA", 150),
     ("certify", AMIRI % "Slanted", "This is to certify that", 10),
     ("completed", AMIRI % "Slanted", "has completed the course of touch typing", 10),
+    ("1", NOTO % "Sans-Bold", "1", 0),
+    ("2", NOTO % "Sans-Bold", "2", 0),
+    ("3", NOTO % "Sans-Bold", "3", 0),
 ]
 
 

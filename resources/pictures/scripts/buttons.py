@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The faces of the image buttons, the check boxes and the picture buttons in their looks."""
 
+from _lettering import word
 from _style import (AMBER, GREY, INK, LIGHT_AMBER, LIGHT_GREY, PALE_TEAL, TEAL, WHITE, gradient,
                     save)
 
@@ -77,24 +78,25 @@ def exercise(main, second, inside):
 
 
 def exercises(main, second, inside, chosen):
-    """Three exercises under one another, told apart by their dots; the chosen one stands out."""
+    """Three exercises under one another with their numbers, as in the list of exercises. The
+    student is at the second one; the chosen one is filled."""
     out = []
-    for count, top in ((1, -29), (2, -9), (3, 11)):
-        fill, dot = (main, inside) if count == chosen else (second, main)
-        out.append('<rect x="-31.5" y="%s" width="42" height="18" rx="4.5" fill="%s"/>'
-                   % (top, fill))
-        out += ['<circle cx="%s" cy="%s" r="3.2" fill="%s"/>'
-                % (-10.5 + (place - (count - 1) / 2) * 10, top + 9, dot)
-                for place in range(count)]
+    for place, top in enumerate((-28.2, -8.2, 11.8), 1):
+        fill, figure = (main, inside) if place == chosen else (inside, main)
+        faint = 'opacity=".55"' if place not in (chosen, 2) else ""
+        out.append('<rect x="-31" y="%s" width="36" height="16.4" rx="4.5" fill="%s" stroke="%s" '
+                   'stroke-width="2.2" %s/>'
+                   % (top, fill, main, faint))
+        out.append(word(str(place), -13, top + 13.5, 14.8, 'fill="%s" %s' % (figure, faint)))
     return "".join(out)
 
 
 def to_neighbour(direction, main):
-    """An arrow from the middle exercise to the one above (-1) or below (1). The order runs from
-    top to bottom, as in the list of exercises, and so misleads no reader of either direction."""
-    return ('<g transform="scale(1 %s)" fill="none" stroke="%s" stroke-width="4.8">'
-            '<path d="M16 0H19A10 10 0 0 1 19 20H16.5"/><path d="M22 13.5L15 20L22 26.5"/></g>'
-            % (direction, main))
+    """A straight arrow from the middle exercise to the one above (-1) or below (1). The order
+    runs from top to bottom, as in the list of exercises, and so misleads no reader of either
+    direction."""
+    return ('<path d="M15.4 -6.5H24.6V9H31.5L20 28L8.5 9H15.4Z" transform="scale(1 %s)" '
+            'fill="%s" stroke="%s" stroke-width="2"/>' % (direction, main, main))
 
 
 def following(main, second, inside):

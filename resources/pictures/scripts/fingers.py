@@ -1,10 +1,9 @@
 #!/usr/bin/env python3
-"""Pictures of the random set that tell what the fingers do.
+"""The keyboard and the hands on it, and a picture of the random set that tells what fingers do.
 
     python3 fingers.py OUTDIR
 
-138 to 141  the keys that the index, middle, ring and little fingers reach
-143         the little finger holds Shift while the other hand strikes
+143  the little finger holds Shift while the other hand strikes
 """
 
 import math
@@ -13,7 +12,8 @@ import sys
 from dataclasses import dataclass
 
 import hands
-from _style import CORAL, GREY, INK, LIGHT_GREY, LIGHT_TEAL, PAPER, WHITE, svg
+from _lettering import word
+from _style import GREY, INK, LIGHT_GREY, LIGHT_TEAL, PAPER, WHITE, svg
 from hands import FINGER_COLOURS, mix
 
 # The keyboard -------------------------------------------------------------------------------
@@ -93,11 +93,6 @@ def home_key(hand, finger):
 
 def named_key(name):
     return next(k for k in KEYS if k.name == name)
-
-
-def reached(hand, finger):
-    """The keys that a finger strikes from its home key."""
-    return [k for k in KEYS if (k.hand, k.finger) == (hand, finger) and k.name != "home"]
 
 
 def key_face(key, fill, edge, drop=0.0):
@@ -206,26 +201,20 @@ def only_finger(finger, key, body):
 class LaidHand:
     """A hand on the board; `colours` are those of its coloured fingers by name.
 
-    `mark` names the striking finger, `aims` gives the places of fingers that have left their
-    home keys, and `moved` is the way that the hand itself has gone, for a right hand mirrored;
-    both in the units of the board. `turn` is its turn in degrees, and `edge` the width of the
-    outline.
+    `aims` gives the places of fingers that have left their home keys, and `moved` is the way that
+    the hand itself has gone, for a right hand mirrored; both in the units of the board. `turn` is
+    its turn in degrees, and `edge` the width of the outline.
     """
 
-    def __init__(self, hand, colours, mark=None, aims=None, moved=(0.0, 0.0), turn=HAND_TURN,
-                 edge=HAND_EDGE):
+    def __init__(self, hand, colours, aims=None, moved=(0.0, 0.0), turn=HAND_TURN, edge=HAND_EDGE):
         self.hand = hand
         self.colours = colours
-        self.mark = mark
         self.edge = edge
         self.placing = Placing(moved, turn)
         self.fingers = on_keys(hand, aims or {}, self.placing)
-        if mark:
-            self.fingers = tuple(f.lifted(1.0, 1.12) if f.name == mark else f
-                                 for f in self.fingers)
 
     def drawing(self, key):
-        return hands.left_hand(self.mark, True, key, self.colours.get, self.fingers,
+        return hands.left_hand(None, True, key, self.colours.get, self.fingers,
                                self.hand == "right", self.edge, sleeve(self.edge))
 
     def placed(self, body):
@@ -282,62 +271,10 @@ def arrow(start, end, width=1.8, colour=INK, start_gap=0.0, end_gap=0.0, bend=0.
 # The pictures -------------------------------------------------------------------------------
 
 
-def aim_point(key):
-    """Where a finger strikes the key: a wide key at its end near the hand."""
-    x, y = key.centre()
-    if key.width > 2 * KEY_WIDTH:
-        x = key.x + 17 if key.hand == "right" else key.x + key.width - 17
-    return (x, y)
-
-
-def touches(key, home):
-    """Whether a key lies beside the home key, so that no arrow is needed to it."""
-    side = key.x <= home.x + home.width + 4 and key.x + key.width >= home.x - 4
-    return side and abs(key.y - home.y) <= ROW_STEP and not key.name
-
-
-def reach_arrows(hand, finger, width):
-    """Arrows from the fingertip to the keys reached that are not beside the home key."""
-    home = home_key(hand, finger)
-    x, y = rest_point(hand, finger)
-    start = (x, y - 6)
-    return "".join(arrow(start, aim_point(key), width, start_gap=7)
-                   for key in reached(hand, finger) if not touches(key, home))
-
-
-def reach_map(width, height, finger, scale, top, tones=(0.5, 0.5)):
-    """The keys that a finger of each hand strikes, in its colour; `tones` are the shares of the
-    colour in the keys of the left and of the right hand."""
-    colour = FINGER_COLOURS[finger]
-    edge = mix(colour, INK, 0.6)
-    tone = dict(zip(("left", "right"), tones))
-
-    def fill_of(key):
-        if key.finger != finger:
-            return None
-        return mix(colour, WHITE, 0.85 if key.name == "home" else tone[key.hand])
-
-    laid = [LaidHand(hand, {finger: colour}) for hand in ("left", "right")]
-    body = [board(fill_of)]
-    body += [hand.whole(0.85) for hand in laid]
-    # The finger's keys stay in sight under the rest of the hand.
-    body.append('<g opacity="0.78">')
-    body += [key_face(k, fill_of(k), edge) for k in KEYS if fill_of(k)]
-    body.append('</g>')
-    body += [hand.coloured_fingers() for hand in laid]
-    body += [reach_arrows(hand, finger, 1.6) for hand in ("left", "right")]
-    middle = BOARD_WIDTH / 2 if scale * BOARD_WIDTH < width else MIRROR_X
-    left = width / 2 - middle * scale
-    return framed(width, height,
-                  f'<g transform="translate({left:.2f} {top}) scale({scale})">{"".join(body)}</g>')
-
-
 def counter(x, y, count):
-    """A disc with one, two or three dots, that tells the order without a figure."""
-    out = [f'<circle cx="{x}" cy="{y}" r="11" fill="{WHITE}" stroke="{INK}" stroke-width="2"/>']
-    places = {1: ((0, 0),), 2: ((-3.6, 0), (3.6, 0)), 3: ((-4, 2.6), (4, 2.6), (0, -4.2))}[count]
-    out += [f'<circle cx="{x + dx}" cy="{y + dy}" r="2.4" fill="{CORAL}"/>' for dx, dy in places]
-    return "".join(out)
+    """A disc with the number of a step."""
+    return (f'<circle cx="{x}" cy="{y}" r="11" fill="{WHITE}" stroke="{INK}" stroke-width="2"/>'
+            + word(str(count), x, y + 5.4, 15, f'fill="{INK}"'))
 
 
 def shift_sign(x, y, size, fill=WHITE, edge=INK, width=1.6):
@@ -346,19 +283,6 @@ def shift_sign(x, y, size, fill=WHITE, edge=INK, width=1.6):
               (-0.56, 0.06))
     data = "M" + " L".join(hands.fmt((x + px * size, y + py * size)) for px, py in points) + " Z"
     return f'<path d="{data}" fill="{fill}"/>' + hands.stroke(data, edge, width)
-
-
-def held_meanwhile(x, y):
-    """The two steps in time, from the right: Shift is held under both."""
-    little, index = FINGER_COLOURS["little"], FINGER_COLOURS["index"]
-    deep = mix(little, INK, 0.6)
-    return (f'<g transform="translate({x} {y})">'
-            + counter(30, 25, 1) + counter(-24, 2, 2)
-            + f'<rect x="-47" y="39" width="94" height="21" rx="10.5" fill="{little}" '
-            f'stroke="{deep}" stroke-width="2"/>' + shift_sign(30, 50, 15, width=1.4)
-            + hands.stroke("M12 49.5 H-34", WHITE, 3)
-            + f'<rect x="-38" y="16" width="28" height="21" rx="4.5" fill="{index}" '
-            f'stroke="{mix(index, INK, 0.6)}" stroke-width="2"/></g>')
 
 
 def shift_picture(width, height, scale, top):
@@ -370,7 +294,10 @@ def shift_picture(width, height, scale, top):
                  for f in ("ring", "middle", "index")})
     left = LaidHand("left", {"little": FINGER_COLOURS["little"]}, aims=aims,
                     moved=(-12.0, 8.0), turn=3.0)
-    right = LaidHand("right", {"index": FINGER_COLOURS["index"]}, mark="index")
+    # Low on its key, so that the key struck stays in sight.
+    right = LaidHand("right", {"index": FINGER_COLOURS["index"]},
+                     aims={f: (rest_point("right", f)[0], rest_point("right", f)[1] + 11)
+                           for f in FINGER_OF_LETTER.values()}, moved=(0.0, 9.0))
     home = home_key("left", "little")
     colours[home] = mix(FINGER_COLOURS["little"], WHITE, 0.35)
     x, y = shift.x + 17, shift.y + 13.5
@@ -384,15 +311,10 @@ def shift_picture(width, height, scale, top):
             counter(x, y - ROW_STEP, 1), counter(above[0], above[1], 2)]
     x = (width - BOARD_WIDTH * scale) / 2
     return framed(width, height,
-                  f'<g transform="translate({x:.2f} {top}) scale({scale})">{"".join(body)}</g>'
-                  + held_meanwhile(x + MIRROR_X * scale - 2, height - 74))
+                  f'<g transform="translate({x:.2f} {top}) scale({scale})">{"".join(body)}</g>')
 
 
 PICTURES = {
-    138: lambda: reach_map(281, 214, "index", 0.80, 20, (0.38, 0.66)),
-    139: lambda: reach_map(420, 260, "middle", 0.93, 26),
-    140: lambda: reach_map(420, 260, "ring", 0.93, 26),
-    141: lambda: reach_map(480, 280, "little", 1.07, 26),
     143: lambda: shift_picture(520, 300, 1.15, 30),
 }
 
