@@ -1,6 +1,8 @@
 // The unit of the design: 15 twips are one device-independent pixel, at every scale of the screen.
 #pragma once
 
+#include "session/Controls.h"
+
 #include <QRect>
 #include <QRgb>
 
@@ -29,6 +31,12 @@ inline QRect PixelRect(int left, int top, int width, int height)
 constexpr QRgb RgbOf(std::int32_t colour)
 {
     return qRgb(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+}
+
+// The pixels of a box of the record.
+inline QRect PixelsOf(const session::Box& box)
+{
+    return PixelRect(box.left, box.top, box.width, box.height);
 }
 
 } // namespace keyfluent::shell

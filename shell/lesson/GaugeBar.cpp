@@ -19,7 +19,7 @@ void GaugeBar::Show(const session::Gauge& gauge)
 {
     setMaximum(gauge.maximum);
     setValue(static_cast<int>(gauge.value));
-    setGeometry(PixelRect(gauge.box.left, gauge.box.top, gauge.box.width, gauge.box.height));
+    setGeometry(PixelsOf(gauge.box));
     setVisible(gauge.visible);
 }
 

@@ -23,11 +23,6 @@ using session::CapArray;
 constexpr int capMargin = 2; // pixels on either side of a cap's text
 constexpr double radius = 3.5;
 
-QRect PixelsOf(const Box& box)
-{
-    return PixelRect(box.left, box.top, box.width, box.height);
-}
-
 QFont DesignedFont(std::size_t cap, const QString& text)
 {
     switch (keyboard::CapDesigns()[cap].font) {
